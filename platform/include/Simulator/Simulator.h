@@ -1,0 +1,70 @@
+/*
+ * The simulated device: one directory tree that stands for the device's file system,
+ * described by a device profile (a property list under platform/profiles/).
+ *
+ * Linux only. The product reaches it through its path module; tests and the Settings
+ * host use it directly. Child processes find the device through TESSARIN_DEVICE_ROOT.
+ */
+#ifndef SIMULATOR_SIMULATOR_H
+#define SIMULATOR_SIMULATOR_H
+
+#include <stdbool.h>
+#include <stddef.h>
+#include <sys/types.h>
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/* Environment variable that names the device root for this process and its children. */
+#define SIM_DEVICE_ROOT_ENV "TESSARIN_DEVICE_ROOT"
+/* The profile used when none is named. */
+#define SIM_DEFAULT_PROFILE "iphone-faceid-ios16"
+
+/* Lays out a fresh device tree at `root` (created if missing, emptied if present) from
+   `profile`: a profile name under platform/profiles (without ".plist") or a path to a
+   profile plist. Creates the profile's files (add-on libraries, application bundles...).
+   Returns 0 on success, -1 with errno-style failure otherwise. */
+int SimDeviceCreate(const char *root, const char *profile);
+
+/* Makes `root` the device of this process; also exports SIM_DEVICE_ROOT_ENV so processes
+   started afterwards share it. Drops every per-process cache tied to the previous device
+   (preference caches, notify registrations, profile). */
+void SimDeviceUse(const char *root);
+
+/* Creates a unique fresh device under the system temp folder and uses it.
+   Returns the root (owned by the simulator; valid until the next call). */
+const char *SimDeviceCreateTemporary(const char *profile);
+
+/* The device root in use: set by SimDeviceUse, else SIM_DEVICE_ROOT_ENV, else NULL. */
+const char *SimDeviceRoot(void);
+
+/* Host path of an absolute device path ("/tmp/x" -> "<root>/tmp/x"). Writes into buf
+   (size bytes); returns buf, or NULL when there is no device or the buffer is too small. */
+char *SimDevicePath(const char *devicePath, char *buf, size_t size);
+
+/* Counts of Darwin notifications posted on this device, by any process, since it was created. */
+unsigned SimNotifyPostCount(const char *name);
+
+/* Runs the calling thread's run loop (the main one, in practice) for `seconds`. */
+void SimRunLoopRunFor(double seconds);
+
+/* Starts the simulated SpringBoard executable at `path` on the current device and waits
+   until it is ready to answer. Returns its pid, or -1. */
+pid_t SimSpringBoardStart(const char *path);
+/* Stops it (SIGTERM, then waits). */
+void SimSpringBoardStop(pid_t pid);
+
+#ifdef __cplusplus
+}
+#endif
+
+#ifdef __OBJC__
+#import <Foundation/Foundation.h>
+/* The profile of the device in use (an immutable dictionary; empty when none). */
+FOUNDATION_EXPORT NSDictionary *SimDeviceProfile(void);
+/* Runs the run loop until `condition` returns YES or `timeout` seconds pass; returns the last answer. */
+FOUNDATION_EXPORT BOOL SimRunLoopRunUntil(BOOL (^condition)(void), double timeout);
+#endif
+
+#endif
