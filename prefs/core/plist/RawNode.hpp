@@ -1,0 +1,63 @@
+// The tree a property-list reader produces before it becomes a Value: the
+// same shapes, plus the UID references that keyed archives use. Used by the
+// readers, the writer and the keyed-archive coder; users see only Value.
+#pragma once
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "core/plist/Value.hpp"
+
+namespace tessarin::plist {
+
+struct RawNode {
+    enum class Kind { Scalar, Uid, Array, Dictionary };
+
+    Kind kind = Kind::Scalar;
+    Value scalar;                                        // Scalar: never an array or dictionary
+    uint64_t uid = 0;                                    // Uid
+    std::vector<RawNode> items;                          // Array
+    std::vector<std::pair<std::string, RawNode>> entries;  // Dictionary, file order
+
+    static RawNode makeScalar(Value v);
+    static RawNode makeUid(uint64_t uid);
+    static RawNode makeArray(std::vector<RawNode> items = {});
+    static RawNode makeDictionary(std::vector<std::pair<std::string, RawNode>> entries = {});
+
+    bool isUid() const noexcept { return kind == Kind::Uid; }
+    bool isArray() const noexcept { return kind == Kind::Array; }
+    bool isDictionary() const noexcept { return kind == Kind::Dictionary; }
+    bool isScalar() const noexcept { return kind == Kind::Scalar; }
+    // Dictionary lookup (first match); nullptr when absent or not a dictionary.
+    const RawNode *find(const char *key) const noexcept;
+};
+
+// Limits that hold for every reader: nesting depth, and the number of nodes
+// and payload bytes a file may expand to (binary files may share objects,
+// so a small file could otherwise describe an enormous tree).
+inline constexpr size_t kMaxDepth = 64;
+inline constexpr size_t kMaxNodes = size_t{1} << 20;
+inline constexpr size_t kMaxPayloadBytes = size_t{64} << 20;
+
+// Converts a tree to a Value; nullopt when it holds a UID anywhere.
+// Duplicate dictionary keys: the last one wins.
+std::optional<Value> toValue(const RawNode &node);
+// The inverse; never fails.
+RawNode toRaw(const Value &value);
+
+// Readers returning the raw tree (UIDs kept). nullopt on any fault.
+std::optional<RawNode> readBinaryPlistRaw(const uint8_t *bytes, size_t size);
+// With uidDictionaries set, a dictionary whose only key is "CF$UID" holding
+// a non-negative integer becomes a UID node, as keyed archives write them.
+std::optional<RawNode> readXmlPlistRaw(const uint8_t *bytes, size_t size, bool uidDictionaries);
+
+// Writers of the raw tree; an empty result means the tree could not be
+// written (a string that is not valid UTF-8).
+std::vector<uint8_t> writeBinaryPlistRaw(const RawNode &root);
+std::string writeXmlPlistRaw(const RawNode &root);
+
+}  // namespace tessarin::plist
