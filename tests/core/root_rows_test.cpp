@@ -1,0 +1,258 @@
+#include "root/RootRows.hpp"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <set>
+
+using namespace tessarin::root;
+
+namespace {
+
+// A device file tree with the jail root at /var/jb.
+struct FakeFiles {
+  std::set<std::string> present;
+  std::vector<std::string> probed;
+
+  FileProbe probe() {
+    return {[this](std::string_view path) {
+              probed.emplace_back(path);
+              return present.count(std::string(path)) > 0;
+            },
+            [](std::string_view path) { return "/var/jb" + std::string(path); }};
+  }
+};
+
+DeviceFacts touchIdPhone() { return {true, false, false, true, true, true}; }
+DeviceFacts faceIdPhone() { return {true, true, false, true, true, true}; }
+DeviceFacts iPadWithoutSensor() { return {false, false, true, true, true, true}; }
+
+const std::vector<std::string> kPlist = {
+    "", "EXTRAS", "UNLOCK_WITH_TOUCHID", "CIRCLE_COLOR", "VIBRATE_ON_ERROR", "",
+    "APPLICATIONS_KEY", "APPLICATIONS_NOTIFICATIONS_KEY", "FLIPSWITCHES", "CONTROLCENTER", "CCSETTINGS_KEY",
+    "CALLER_ID_PROTECTION_KEY", "", "PASSCODE_OPTIONS", "TRUSTED_WIFI_NETWORKS", "KEEP_SESSION", "CRASH_LOGS",
+    "", "RESET_ALL"};
+
+std::vector<std::string> keptIds(const DeviceFacts &device, FakeFiles &files) {
+  std::vector<std::string> kept;
+  for (const std::string &id : kPlist)
+    if (!id.empty() && rowAction(id, device, files.probe()) != RowAction::Drop) kept.push_back(id);
+  return kept;
+}
+
+bool has(const std::vector<std::string> &ids, std::string_view id) {
+  return std::find(ids.begin(), ids.end(), id) != ids.end();
+}
+
+}  // namespace
+
+TEST(RootRows, EarlyExits) {
+  EXPECT_EQ(singleGroupFooter(0, true), kLibraryMissingFooter);
+  EXPECT_EQ(singleGroupFooter(0, false), kLibraryMissingFooter);  // library check comes first
+  EXPECT_EQ(singleGroupFooter(0x010203, false), kUnsupportedSystemFooter);
+  EXPECT_FALSE(singleGroupFooter(0x010203, true).has_value());
+  EXPECT_EQ(kUnsupportedSystemFooter, "This app is optimized only for iOS 12 to iOS 16.");
+}
+
+TEST(RootRows, BiometricsSetFromIdsn) {
+  EXPECT_FALSE(biometricsSet(std::nullopt));
+  EXPECT_FALSE(biometricsSet(0));
+  EXPECT_FALSE(biometricsSet(-3));
+  EXPECT_TRUE(biometricsSet(1));
+  EXPECT_TRUE(biometricsSet(5));
+}
+
+TEST(RootRows, WarningRow) {
+  struct Case { bool grace, trusted, inPlist; std::optional<double> height; };
+  const Case cases[] = {
+      {false, false, false, std::nullopt}, {true, false, false, 70},  {false, true, false, 45},
+      {true, true, false, 70} /* grace wins */, {true, true, true, std::nullopt},
+  };
+  for (const Case &c : cases) {
+    const auto row = warningRow(c.grace, c.trusted, c.inPlist);
+    ASSERT_EQ(row.has_value(), c.height.has_value()) << c.grace << c.trusted << c.inPlist;
+    if (!row) continue;
+    EXPECT_EQ(row->height, *c.height);
+    EXPECT_EQ(row->title, c.grace ? kGraceWarningText : kTrustedWarningText);
+  }
+  EXPECT_NE(kGraceWarningText.find("unlock \nand"), std::string_view::npos);
+}
+
+TEST(RootRows, DeviceDependentRows) {
+  struct Case { const char *name; DeviceFacts device; std::vector<std::string> gone, kept; };
+  const Case cases[] = {
+      {"touch id phone", touchIdPhone(), {"UNLOCK_WITH_TOUCHID", "APPLICATIONS_NOTIFICATIONS_KEY"},
+       {"EXTRAS", "CIRCLE_COLOR", "VIBRATE_ON_ERROR", "CALLER_ID_PROTECTION_KEY"}},
+      {"face id phone", faceIdPhone(), {"UNLOCK_WITH_TOUCHID", "CIRCLE_COLOR"},
+       {"EXTRAS", "VIBRATE_ON_ERROR", "CALLER_ID_PROTECTION_KEY"}},
+      {"ipad without sensor", iPadWithoutSensor(),
+       {"EXTRAS", "UNLOCK_WITH_TOUCHID", "CIRCLE_COLOR", "VIBRATE_ON_ERROR", "CALLER_ID_PROTECTION_KEY"},
+       {"PASSCODE_OPTIONS", "RESET_ALL"}},
+      {"before ios 11", {true, false, false, true, true, false}, {}, {"UNLOCK_WITH_TOUCHID", "APPLICATIONS_NOTIFICATIONS_KEY"}},
+      {"before ios 10", {true, false, false, true, false, false}, {"APPLICATIONS_NOTIFICATIONS_KEY"}, {}},
+      {"before ios 8", {true, false, false, false, false, false}, {"CALLER_ID_PROTECTION_KEY"}, {}},
+  };
+  for (const Case &c : cases) {
+    FakeFiles files;
+    const auto kept = keptIds(c.device, files);
+    for (const auto &id : c.gone) EXPECT_FALSE(has(kept, id)) << c.name << ": " << id;
+    for (const auto &id : c.kept) EXPECT_TRUE(has(kept, id)) << c.name << ": " << id;
+  }
+}
+
+TEST(RootRows, ExtrasLoseFooterFromIos11AndResetGetsTarget) {
+  FakeFiles files;
+  EXPECT_EQ(rowAction("EXTRAS", touchIdPhone(), files.probe()), RowAction::KeepWithoutFooter);
+  EXPECT_EQ(rowAction("EXTRAS", {true, false, false, true, true, false}, files.probe()), RowAction::Keep);
+  EXPECT_EQ(rowAction("RESET_ALL", iPadWithoutSensor(), files.probe()), RowAction::KeepAsResetTarget);
+  EXPECT_EQ(rowAction("KEEP_SESSION", iPadWithoutSensor(), files.probe()), RowAction::Keep);
+}
+
+TEST(RootRows, AddOnRows) {
+  const std::string ccs = "/Library/MobileSubstrate/DynamicLibraries/CCSettings.dylib";
+  struct Case { const char *name; std::set<std::string> present; bool toggles, controlCenter, ccSettings; };
+  const Case cases[] = {
+      {"nothing installed", {}, false, true, false},
+      {"toggle library", {"/usr/lib/libflipswitch.dylib"}, true, true, false},
+      {"toggle library in bootstrap", {"/bootstrap/usr/lib/libflipswitch.dylib"}, true, true, false},
+      {"toggle library in jail root", {"/var/jb/usr/lib/libflipswitch.dylib"}, true, true, false},
+      {"flipcc in bootstrap only", {"/bootstrap/Library/MobileSubstrate/DynamicLibraries/FlipControlCenter.dylib"},
+       false, false, false},
+      {"flipcc in jail root", {"/var/jb/Library/MobileSubstrate/DynamicLibraries/FlipControlCenter.dylib"},
+       false, false, false},
+      {"ccsettings in /Library", {ccs}, false, false, true},
+      {"ccsettings in bootstrap", {"/bootstrap" + ccs}, false, true, true},  // not among the first probe's paths
+      {"ccsettings in jail root only", {"/var/jb" + ccs}, false, false, false},
+  };
+  for (const Case &c : cases) {
+    FakeFiles files;
+    files.present = c.present;
+    const auto kept = keptIds(touchIdPhone(), files);
+    EXPECT_EQ(has(kept, "FLIPSWITCHES"), c.toggles) << c.name;
+    EXPECT_EQ(has(kept, "CONTROLCENTER"), c.controlCenter) << c.name;
+    EXPECT_EQ(has(kept, "CCSETTINGS_KEY"), c.ccSettings) << c.name;
+  }
+}
+
+TEST(RootRows, ProbeOrderStopsAtFirstFound) {
+  FakeFiles files;
+  rowAction("CONTROLCENTER", touchIdPhone(), files.probe());
+  EXPECT_EQ(files.probed, (std::vector<std::string>{
+                              "/bootstrap/Library/MobileSubstrate/DynamicLibraries/FlipControlCenter.dylib",
+                              "/var/jb/Library/MobileSubstrate/DynamicLibraries/FlipControlCenter.dylib",
+                              "/Library/MobileSubstrate/DynamicLibraries/FlipControlCenter.dylib",
+                              "/Library/MobileSubstrate/DynamicLibraries/CCSettings.dylib",
+                              "/var/jb/Library/MobileSubstrate/DynamicLibraries/CCSettings.dylib"}));
+
+  files.probed.clear();
+  files.present = {"/bootstrap/usr/lib/libflipswitch.dylib"};
+  rowAction("FLIPSWITCHES", touchIdPhone(), files.probe());
+  EXPECT_EQ(files.probed,
+            (std::vector<std::string>{"/usr/lib/libflipswitch.dylib", "/bootstrap/usr/lib/libflipswitch.dylib"}));
+
+  files.probed.clear();
+  rowAction("CCSETTINGS_KEY", touchIdPhone(), files.probe());
+  EXPECT_EQ(files.probed,
+            (std::vector<std::string>{"/Library/MobileSubstrate/DynamicLibraries/CCSettings.dylib",
+                                      "/bootstrap/Library/MobileSubstrate/DynamicLibraries/CCSettings.dylib"}));
+
+  // Rows that need no add-on never touch the file system.
+  files.probed.clear();
+  rowAction("RESET_ALL", touchIdPhone(), files.probe());
+  EXPECT_TRUE(files.probed.empty());
+  // A probe without functions finds nothing and does not fail.
+  EXPECT_EQ(rowAction("FLIPSWITCHES", touchIdPhone(), FileProbe{}), RowAction::Drop);
+}
+
+TEST(RootRows, Disabling) {
+  const char *stayEnabled[] = {"PASSCODE_OPTIONS", "CRASH_LOGS", "RESET_ALL", "TRUSTED_WIFI_NETWORKS"};
+  for (const char *id : stayEnabled) EXPECT_FALSE(rowDisabled(id, false, false)) << id;
+  for (const char *id : {"EXTRAS", "KEEP_SESSION", "", "TRUSTED_WARNING"}) {
+    EXPECT_TRUE(rowDisabled(id, false, false)) << id;
+    EXPECT_FALSE(rowDisabled(id, true, false)) << id;
+    EXPECT_FALSE(rowDisabled(id, false, true)) << id;
+  }
+}
+
+TEST(RootRows, DeviceAuthRow) {
+  const auto classes = [](std::string_view name) { return name == kTouchIdPasscodeControllerClass; };
+  const auto noClasses = [](std::string_view) { return false; };
+  struct Case {
+    const char *name; DeviceFacts device; std::optional<PasscodeCharacteristics> passcode; bool warning;
+    bool touchIdClass; std::string_view rowName, detail, action; std::size_t group;
+  };
+  const Case cases[] = {
+      {"4 digits", touchIdPhone(), PasscodeCharacteristics{true, false, 4}, false, true, "Touch ID", "",
+       "loadUserPasswordController", 7},
+      {"6 digits, warning", faceIdPhone(), PasscodeCharacteristics{true, false, 6}, true, true, "Face ID & Passcode",
+       "", "loadUserPasswordController", 9},
+      {"5 digits", touchIdPhone(), PasscodeCharacteristics{true, false, 5}, false, true, "Touch ID", "",
+       "loadUserComplexPasswordController", 7},
+      {"alphanumeric", touchIdPhone(), PasscodeCharacteristics{false, true, 6}, false, true, "Touch ID", "",
+       "loadUserComplexPasswordController", 7},
+      {"digits flagged alpha", touchIdPhone(), PasscodeCharacteristics{true, true, 4}, false, true, "Touch ID", "",
+       "loadUserComplexPasswordController", 7},
+      {"no passcode, face id", faceIdPhone(), std::nullopt, false, false, "Face ID & Passcode",
+       "PSUIPearlPasscodeController", "", 7},
+      {"no passcode, touch id", touchIdPhone(), std::nullopt, true, true, "Touch ID", "PSTouchIDPasscodeController",
+       "", 9},
+      {"no passcode, old touch id", touchIdPhone(), std::nullopt, false, false, "Touch ID",
+       "PSMesaSettingsController", "", 7},
+  };
+  for (const Case &c : cases) {
+    const auto row = c.touchIdClass ? deviceAuthRow(c.device, c.passcode, c.warning, classes)
+                                    : deviceAuthRow(c.device, c.passcode, c.warning, noClasses);
+    ASSERT_TRUE(row.has_value()) << c.name;
+    EXPECT_EQ(row->name, c.rowName) << c.name;
+    EXPECT_EQ(row->detailClass, c.detail) << c.name;
+    EXPECT_EQ(row->loadAction, c.action) << c.name;
+    EXPECT_EQ(row->groupIndex, c.group) << c.name;
+    EXPECT_EQ(row->rowIndex, c.group + 1) << c.name;
+  }
+  EXPECT_FALSE(deviceAuthRow(iPadWithoutSensor(), std::nullopt, false, classes).has_value());
+}
+
+TEST(RootRows, PlanOnTrustedNetworkWithoutPasscodes) {
+  RootPageFacts facts;
+  facts.device = touchIdPhone();
+  facts.trustedNetwork = true;
+  facts.devicePasscode = PasscodeCharacteristics{true, false, 6};
+  FakeFiles files;
+  const RootRowsPlan plan = planRootRows(kPlist, facts, files.probe(), nullptr);
+
+  ASSERT_TRUE(plan.warning.has_value());
+  EXPECT_EQ(plan.warning->height, 45);
+  ASSERT_GE(plan.rows.size(), 11u);
+  EXPECT_EQ(plan.rows[0].kind, PlannedRowKind::WarningGroup);
+  EXPECT_EQ(plan.rows[1].kind, PlannedRowKind::Warning);
+  EXPECT_EQ(plan.rows[9].kind, PlannedRowKind::DeviceAuthGroup);
+  EXPECT_EQ(plan.rows[10].kind, PlannedRowKind::DeviceAuth);
+  EXPECT_EQ(plan.rows[plan.rows.size() - 3].kind, PlannedRowKind::CreditsGroup);
+  EXPECT_EQ(plan.rows.back().kind, PlannedRowKind::MoreAppsGroup);
+
+  // No passcode of either kind: only the four rows stay usable; the added ones are not greyed.
+  std::vector<std::string> enabled;
+  for (const PlannedRow &row : plan.rows) {
+    if (row.kind == PlannedRowKind::Loaded && !row.disabled) enabled.push_back(kPlist[row.loadedIndex]);
+    if (row.kind == PlannedRowKind::Warning) EXPECT_TRUE(row.disabled);
+    if (row.kind == PlannedRowKind::DeviceAuth || row.kind == PlannedRowKind::Credits) EXPECT_FALSE(row.disabled);
+    if (row.kind == PlannedRowKind::Loaded) EXPECT_NE(row.action, RowAction::Drop);
+  }
+  std::sort(enabled.begin(), enabled.end());
+  EXPECT_EQ(enabled, (std::vector<std::string>{"CRASH_LOGS", "PASSCODE_OPTIONS", "RESET_ALL", "TRUSTED_WIFI_NETWORKS"}));
+}
+
+TEST(RootRows, PlanWithShortPlistAppendsDeviceAuthRows) {
+  RootPageFacts facts;
+  facts.device = faceIdPhone();
+  facts.biometricsSet = true;
+  FakeFiles files;
+  const RootRowsPlan plan = planRootRows({"", "RESET_ALL"}, facts, files.probe(), nullptr);
+  ASSERT_TRUE(plan.deviceAuth.has_value());
+  EXPECT_EQ(plan.deviceAuth->groupIndex, 2u);
+  ASSERT_EQ(plan.rows.size(), 7u);
+  EXPECT_EQ(plan.rows[1].action, RowAction::KeepAsResetTarget);
+  EXPECT_EQ(plan.rows[2].kind, PlannedRowKind::DeviceAuthGroup);
+  EXPECT_EQ(plan.rows[3].kind, PlannedRowKind::DeviceAuth);
+  EXPECT_FALSE(plan.rows[0].disabled);
+}
