@@ -1,0 +1,113 @@
+#include "root/RootBehaviour.hpp"
+
+#include <cstdio>
+
+namespace tessarin::root {
+
+std::string versionText(std::uint32_t libraryVersion) {
+  if (libraryVersion == 0) return {};
+  const unsigned major = (libraryVersion >> 16) & 0xff;
+  const unsigned minor = (libraryVersion >> 8) & 0xff;
+  const unsigned build = libraryVersion & 0xff;
+  char text[32];
+  std::snprintf(text, sizeof text, "v%u.%u-%u", major, minor, build);
+  return text;
+}
+
+Rect header::headerFrame(double viewWidth) { return {0, 0, viewWidth, kHeaderHeight}; }
+
+Rect header::versionLabelFrame(double viewWidth) { return {0, 0, viewWidth - kLabelWidthInset, kLabelHeight}; }
+
+namespace {
+
+std::string text(std::string_view view) { return std::string(view); }
+
+Alert okayNotice(std::string_view title, std::string_view message) {
+  return {text(title), text(message), {{text(kOkayTitle), ActionStyle::Cancel, Effect::Nothing}}};
+}
+
+std::string_view orDefault(std::string_view localised, std::string_view fallback) {
+  return localised.empty() ? fallback : localised;
+}
+
+}  // namespace
+
+Alert noSpringBoardAlert() { return okayNotice(kNoSpringBoardTitle, kNoSpringBoardMessage); }
+
+std::optional<Alert> firstRunPrompt(const FirstRunFacts &facts) {
+  if (!facts.idsnReplied || !facts.appsPresent || facts.idsnValue >= 1 || facts.productPasscodeStored)
+    return std::nullopt;
+
+  Alert prompt{text(kAlertTitle), {}, {}};
+  const AlertButton setPasscode{text(kSetPasscodeTitle), ActionStyle::Default, Effect::PushPasscodeSettings};
+  const AlertButton no{text(orDefault(facts.noText, kNoDefault)), ActionStyle::Cancel, Effect::Nothing};
+
+  if (facts.biometricSensor) {
+    const std::string_view missing = facts.faceID ? "Face ID" : "any fingerprints";
+    const std::string_view needed =
+        facts.faceID ? "FaceID or a Tessarin passcode" : "at least one fingerprint or a Tessarin passcode";
+    prompt.message = "You do not have " + text(missing) + " set. To enable this application, you must have " +
+                     text(needed) + " set. Would you like to setup one now?";
+    const std::string setup = std::string("Setup ") + (facts.faceID ? "Face ID" : "Touch ID");
+    prompt.buttons = {{setup, ActionStyle::Default, Effect::SetUpDeviceAuthentication}, setPasscode, no};
+  } else {
+    prompt.message = text(orDefault(facts.noPasscodeSetText, kNoPasscodeSetDefault));
+    prompt.buttons = {setPasscode, no};
+  }
+  return prompt;
+}
+
+std::string_view userPasscodeControllerClass(const PasscodeCharacteristics &characteristics) {
+  return isSimplePasscode(characteristics) ? kUserPasscodeControllerClass : kUserComplexPasscodeControllerClass;
+}
+
+SetupDecision setupDecision(const SetupFacts &facts, SetupOrigin origin) {
+  SetupDecision decision;
+  if (facts.devicePasscode) {
+    decision.userPasscodeControllerClass = userPasscodeControllerClass(*facts.devicePasscode);
+    return decision;
+  }
+
+  if (facts.faceID)
+    decision.systemPageClasses = {kPearlPasscodeControllerClass};
+  else
+    decision.systemPageClasses = {kMesaSettingsControllerClass, kTouchIdPasscodeControllerClass,
+                                  kUITouchIdPasscodeControllerClass};
+
+  if (origin == SetupOrigin::AlertViewButton) {
+    decision.pushSystemPage = true;
+    return decision;
+  }
+
+  if (facts.iOS16) {
+    // On iOS 16 the jailbreak allows no passcode: only the notice, nothing pushed.
+    decision.notice = okayNotice(kAlertTitle, kIOS16Notice);
+    decision.noticeFrom = NoticeFrom::RootPage;
+    return decision;
+  }
+
+  decision.pushSystemPage = true;
+  if (facts.deviceCornerRadius > 0 && facts.iOS14 && facts.loaderAppInstalled) {
+    decision.notice = okayNotice(kAlertTitle, kLoaderNotice);
+    decision.noticeFrom = NoticeFrom::PushedPage;
+  }
+  return decision;
+}
+
+Alert resetQuestionAlert() {
+  return {text(kAlertTitle),
+          text(kResetQuestion),
+          {{"Cancel", ActionStyle::Cancel, Effect::Nothing}, {"Reset", ActionStyle::Default, Effect::ResetAllSettings}}};
+}
+
+Alert resetDoneAlert() {
+  return {text(kAlertTitle), text(kResetDone), {{"OK", ActionStyle::Cancel, Effect::LeaveProductSettings}}};
+}
+
+Effect alertViewButtonEffect(bool biometricSensor, long long buttonIndex) {
+  if (buttonIndex == 1) return biometricSensor ? Effect::SetUpDeviceAuthentication : Effect::PushPasscodeSettings;
+  if (buttonIndex == 2 && biometricSensor) return Effect::PushPasscodeSettings;
+  return Effect::Nothing;
+}
+
+}  // namespace tessarin::root
