@@ -20,6 +20,10 @@ extern "C" {
 #define SIM_DEVICE_ROOT_ENV "TESSARIN_DEVICE_ROOT"
 /* The profile used when none is named. */
 #define SIM_DEFAULT_PROFILE "iphone-faceid-ios16"
+/* Environment variable that overrides the folder the profiles are read from. */
+#define SIM_PROFILES_DIR_ENV "TESSARIN_PROFILES_DIR"
+/* Darwin notification a simulated SpringBoard posts once it answers messages. */
+#define SIM_SPRINGBOARD_READY_NOTIFICATION "net.corvane.tessarin.simulator.ready"
 
 /* Lays out a fresh device tree at `root` (created if missing, emptied if present) from
    `profile`: a profile name under platform/profiles (without ".plist") or a path to a
@@ -27,7 +31,11 @@ extern "C" {
    Returns 0 on success, -1 with errno-style failure otherwise. */
 int SimDeviceCreate(const char *root, const char *profile);
 
-/* Makes `root` the device of this process; also exports SIM_DEVICE_ROOT_ENV so processes
+/* Deletes the device tree at `root` (stops using it first when it is the device in use).
+   Returns 0 on success, -1 otherwise. */
+int SimDeviceRemove(const char *root);
+
+/* Makes `root` the device of this process (NULL: no device); also exports SIM_DEVICE_ROOT_ENV so processes
    started afterwards share it. Drops every per-process cache tied to the previous device
    (preference caches, notify registrations, profile). */
 void SimDeviceUse(const char *root);
@@ -45,6 +53,9 @@ char *SimDevicePath(const char *devicePath, char *buf, size_t size);
 
 /* Counts of Darwin notifications posted on this device, by any process, since it was created. */
 unsigned SimNotifyPostCount(const char *name);
+
+/* Number of IOServiceGetMatchingService calls made in this process. */
+unsigned SimIOKitMatchCount(void);
 
 /* Runs the calling thread's run loop (the main one, in practice) for `seconds`. */
 void SimRunLoopRunFor(double seconds);

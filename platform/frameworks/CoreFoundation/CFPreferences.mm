@@ -1,0 +1,2 @@
+#include "Simulator/SimInternal.h"
+void SimPreferencesDeviceChanged(void) {}

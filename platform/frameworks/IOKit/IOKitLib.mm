@@ -1,0 +1,2 @@
+#include "Simulator/SimInternal.h"
+unsigned SimIOKitMatchCount(void) { return 0; }

@@ -1,0 +1,44 @@
+// Run-loop helpers for tests and hosts: spin the current thread's run loop for a while.
+
+#import <Foundation/Foundation.h>
+#include <Simulator/Simulator.h>
+
+#include <unistd.h>
+
+// One bounded turn of the run loop. GNUstep returns at once when the loop has no input
+// source yet; sleep a little then, so callers waiting on other threads do not spin.
+static void runOnce(NSRunLoop *loop, NSDate *limit)
+{
+    NSDate *slice = [NSDate dateWithTimeIntervalSinceNow:0.01];
+    NSDate *until = [slice earlierDate:limit];
+    if (![loop runMode:NSDefaultRunLoopMode beforeDate:until]) usleep(1000);
+}
+
+void SimRunLoopRunFor(double seconds)
+{
+    NSAutoreleasePool *pool = [[NSAutoreleasePool alloc] init];
+    NSRunLoop *loop = [NSRunLoop currentRunLoop];
+    NSDate *limit = [NSDate dateWithTimeIntervalSinceNow:seconds];
+    do {
+        NSAutoreleasePool *inner = [[NSAutoreleasePool alloc] init];
+        runOnce(loop, limit);
+        [inner release];
+    } while ([limit timeIntervalSinceNow] > 0);
+    [pool release];
+}
+
+BOOL SimRunLoopRunUntil(BOOL (^condition)(void), double timeout)
+{
+    NSAutoreleasePool *pool = [[NSAutoreleasePool alloc] init];
+    NSRunLoop *loop = [NSRunLoop currentRunLoop];
+    NSDate *limit = [NSDate dateWithTimeIntervalSinceNow:timeout];
+    BOOL done = condition();
+    while (!done && [limit timeIntervalSinceNow] > 0) {
+        NSAutoreleasePool *inner = [[NSAutoreleasePool alloc] init];
+        runOnce(loop, limit);
+        done = condition();
+        [inner release];
+    }
+    [pool release];
+    return done;
+}

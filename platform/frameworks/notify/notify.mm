@@ -1,0 +1,3 @@
+#include "Simulator/SimInternal.h"
+void SimNotifyDeviceChanged(void) {}
+unsigned SimNotifyPostCount(const char *name) { return 0; }
