@@ -1,0 +1,70 @@
+#include "passcode/PasscodeFlow.hpp"
+
+namespace tessarin::passcode {
+
+namespace {
+
+// Every key the passcode pages look up. "PMENTER" appears once, with the
+// numeric page's default; the complex page uses text::kComplexDeviceTitle.
+constexpr Text kTexts[] = {
+    text::kAddTitle,   text::kCancel,       text::kEnter,      text::kReenter,
+    text::kMismatch,   text::kEnterOld,     text::kRemoveTitle, text::kChangeTitle,
+    text::kWrong,      text::kTooMany,      text::kOptionsTitle, text::kDevicePrompt,
+    text::kDeviceTitle,
+};
+
+}  // namespace
+
+Text findText(std::string_view key) {
+  if (key.empty()) return text::kNone;
+  for (const Text &t : kTexts) {
+    if (t.key == key) return t;
+  }
+  return text::kNone;
+}
+
+Step slideStep(Text prompt) {
+  Step s;
+  s.transition = Transition::Slide;
+  s.prompt = prompt;
+  s.warning = text::kNone;
+  return s;
+}
+
+Step shakeStep(Text prompt, Text warning) {
+  Step s;
+  s.transition = Transition::Shake;
+  s.prompt = prompt;
+  s.warning = warning;
+  s.playErrorSound = true;
+  return s;
+}
+
+Step storeStep(std::string_view value) {
+  Step s;
+  s.commit = Commit::Store;
+  s.value.assign(value.data(), value.size());
+  return s;
+}
+
+Step removeStep() {
+  Step s;
+  s.commit = Commit::Remove;
+  return s;
+}
+
+Step refuseStep() {
+  Step s;
+  s.refuse = true;
+  s.prompt = text::kNone;
+  s.warning = text::kTooMany;
+  return s;
+}
+
+Step successStep() {
+  Step s;
+  s.success = true;
+  return s;
+}
+
+}  // namespace tessarin::passcode
