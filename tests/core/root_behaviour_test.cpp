@@ -11,13 +11,6 @@ TEST(RootBehaviour, VersionText) {
   EXPECT_EQ(versionText(0), "");
 }
 
-TEST(RootBehaviour, HeaderGeometry) {
-  const Rect label = header::versionLabelFrame(320);
-  EXPECT_EQ(label.width, 314);
-  EXPECT_EQ(label.height, 17);
-  EXPECT_EQ(header::headerFrame(320).height, 22);
-}
-
 namespace {
 FirstRunFacts unsetUp() {
   FirstRunFacts facts;
@@ -117,19 +110,6 @@ TEST(RootBehaviour, SetupDecision) {
   ASSERT_EQ(loader.notice->buttons.size(), 1u);
   EXPECT_EQ(loader.notice->buttons[0].title, "Okay");
   EXPECT_EQ(loader.notice->buttons[0].style, ActionStyle::Cancel);
-}
-
-TEST(RootBehaviour, ResetFlow) {
-  const Alert question = resetQuestionAlert();
-  ASSERT_EQ(question.buttons.size(), 2u);
-  EXPECT_EQ(question.buttons[0].title, "Cancel");
-  EXPECT_EQ(question.buttons[0].effect, Effect::Nothing);
-  EXPECT_EQ(question.buttons[1].title, "Reset");
-  EXPECT_EQ(question.buttons[1].effect, Effect::ResetAllSettings);
-  const Alert done = resetDoneAlert();
-  ASSERT_EQ(done.buttons.size(), 1u);
-  EXPECT_EQ(done.buttons[0].title, "OK");
-  EXPECT_EQ(done.buttons[0].effect, Effect::LeaveProductSettings);
 }
 
 TEST(RootBehaviour, AlertViewButtons) {
