@@ -10,6 +10,10 @@ std::optional<std::string_view> singleGroupFooter(std::uint32_t libraryVersion, 
   return std::nullopt;
 }
 
+DeviceFacts deviceFacts(bool biometricSensor, bool faceID, bool iPad, const SystemVersionFlags &system) {
+  return {biometricSensor, faceID, iPad, system.iOS8, system.iOS10, system.iOS11};
+}
+
 bool biometricsSet(std::optional<long long> idsnValue) { return idsnValue.has_value() && *idsnValue >= 1; }
 
 std::optional<WarningRow> warningRow(bool gracePeriod, bool trustedNetwork, bool plistHasWarningRow) {

@@ -16,6 +16,8 @@
 #include <string_view>
 #include <vector>
 
+#include "core/SystemVersion.hpp"
+
 namespace tessarin::root {
 
 // Row identifiers ("id" of the plist rows and of the rows added here).
@@ -109,6 +111,8 @@ struct DeviceFacts {
   bool iOS10 = false;
   bool iOS11 = false;
 };
+
+DeviceFacts deviceFacts(bool biometricSensor, bool faceID, bool iPad, const SystemVersionFlags &system);
 
 // How the file system is asked about add-on libraries. `exists` tells whether
 // a file exists at a device path; `jailRoot` maps a device path to its form
