@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <string>
 #include <vector>
 
 #include "core/plist/Value.hpp"
@@ -23,5 +24,9 @@ std::optional<Value> decodeKeyedArchive(const uint8_t *bytes, size_t size);
 // NSDate; strings, numbers and data inline). Empty when a string of the
 // value is not valid UTF-8.
 std::vector<uint8_t> encodeKeyedArchive(const Value &root);
+
+// The same archive written as an XML property list (UIDs as "CF$UID"
+// dictionaries). Empty on the same failure.
+std::string encodeKeyedArchiveXml(const Value &root);
 
 }  // namespace tessarin::plist
