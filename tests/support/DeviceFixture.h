@@ -8,6 +8,15 @@
 
 #include <string>
 
+// Equality of Foundation objects (nil equals nil), with both descriptions on failure.
+inline ::testing::AssertionResult ObjectsEqual(id a, id b)
+{
+    if (a == b || (a != nil && [a isEqual:b])) return ::testing::AssertionSuccess();
+    return ::testing::AssertionFailure() << [[a description] UTF8String] << " != " << [[b description] UTF8String];
+}
+#define EXPECT_NSEQ(a, b) EXPECT_TRUE(ObjectsEqual((a), (b)))
+#define ASSERT_NSEQ(a, b) ASSERT_TRUE(ObjectsEqual((a), (b)))
+
 class DeviceTest : public ::testing::Test {
 protected:
     void SetUp() override;

@@ -1,0 +1,17 @@
+/*
+ * Foundation API that iOS has and GNUstep Base lacks; implemented by the platform library.
+ * Pulled in through <CoreFoundation/CoreFoundation.h>, which <Foundation/Foundation.h> includes.
+ */
+#ifndef SIM_FOUNDATION_ADDITIONS_H
+#define SIM_FOUNDATION_ADDITIONS_H
+
+#ifdef __OBJC__
+#import <Foundation/NSUserDefaults.h>
+
+@interface NSUserDefaults (SimSuites)
+/* Defaults of the preference domain `suiteName`, sharing the CFPreferences store. */
+- (instancetype)initWithSuiteName:(NSString *)suiteName;
+@end
+#endif
+
+#endif
