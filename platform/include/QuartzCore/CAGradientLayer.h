@@ -1,0 +1,1 @@
+#include <QuartzCore/CAShapeLayer.h>
