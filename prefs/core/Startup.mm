@@ -1,0 +1,50 @@
+#import "core/Startup.h"
+#import <Foundation/Foundation.h>
+#import "core/Logging.h"
+#import "core/MessageTransport.h"
+#import "core/VersionFlags.h"
+#include <dlfcn.h>
+#include <string.h>
+#include <substrate.h>
+
+namespace {
+
+void (*platformInitialize)(id, SEL) = NULL;
+bool glyphHooksInstalled = false;
+
+// Runs for each class as it initialises; PassKit's glyph view gets its colour hooks then.
+void initializeWatchingForGlyphView(id self, SEL _cmd) {
+  if (!glyphHooksInstalled && strcmp(class_getName((Class)self), "PKGlyphView") == 0) {
+    glyphHooksInstalled = true;
+    installGlyphColorHooks((Class)self);
+  }
+  if (platformInitialize != NULL) platformInitialize(self, _cmd);
+}
+
+}  // namespace
+
+void tessarinStartUp(void) {
+  installExceptionLogger();
+  installMessageTransport();
+  dlopen("/usr/lib/libsubstrate.dylib", RTLD_NOW);
+  setModernVersionFlags();
+  NSLog(@"Starting up in settings...");
+  MSHookMessageEx(object_getClass([NSObject class]), @selector(initialize), (IMP)initializeWatchingForGlyphView,
+                  (IMP *)&platformInitialize);
+  setLegacyVersionFlags();
+  registerTransportSignal();
+}
+
+// Load time: the classes of this image are registered, so Objective-C is safe to use.
+@interface TessarinStartUp : NSObject
+@end
+
+@implementation TessarinStartUp
+
++ (void)load {
+  NSAutoreleasePool *pool = [[NSAutoreleasePool alloc] init];
+  tessarinStartUp();
+  [pool drain];
+}
+
+@end
