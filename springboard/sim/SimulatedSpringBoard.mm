@@ -1,0 +1,101 @@
+#import "SimulatedSpringBoard.h"
+#include <notify.h>
+#include "core/Names.hpp"
+
+namespace {
+
+NSDictionary *dictionaryOrEmpty(id object) {
+  return [object isKindOfClass:[NSDictionary class]] ? object : [NSDictionary dictionary];
+}
+
+NSArray *arrayOrEmpty(id object) {
+  return [object isKindOfClass:[NSArray class]] ? object : [NSArray array];
+}
+
+}  // namespace
+
+@implementation SimulatedSpringBoard
+
+- (instancetype)initWithProfile:(NSDictionary *)profile {
+  if ((self = [super init])) {
+    _profile = [dictionaryOrEmpty(profile) copy];
+    id shows = [[self springBoardFacts] objectForKey:@"showsInLockScreen"];
+    _showsInLockScreen = [shows respondsToSelector:@selector(boolValue)] ? [shows boolValue] : YES;
+  }
+  return self;
+}
+
+- (void)dealloc {
+  [_profile release];
+  [super dealloc];
+}
+
+- (NSDictionary *)springBoardFacts {
+  return dictionaryOrEmpty([_profile objectForKey:@"springboard"]);
+}
+
+// A library that stops answering after a number of "dlbv" replies simulates a
+// SpringBoard that goes away while Settings is open.
+- (NSDictionary *)libraryVersionReply {
+  NSDictionary *facts = [self springBoardFacts];
+  id limit = [facts objectForKey:@"libraryVersionReplies"];
+  if ([limit respondsToSelector:@selector(unsignedIntegerValue)] && _libraryVersionReplies >= [limit unsignedIntegerValue]) {
+    return [NSDictionary dictionary];
+  }
+  _libraryVersionReplies++;
+  id version = [facts objectForKey:@"libraryVersion"];
+  unsigned long long value = [version respondsToSelector:@selector(unsignedLongLongValue)] ? [version unsignedLongLongValue] : 0;
+  return [NSDictionary dictionaryWithObject:[NSNumber numberWithUnsignedLongLong:value] forKey:@"dlbv"];
+}
+
+- (NSArray *)knownNetworks {
+  NSMutableArray *records = [NSMutableArray array];
+  for (id network in arrayOrEmpty([dictionaryOrEmpty([_profile objectForKey:@"wifi"]) objectForKey:@"networks"])) {
+    NSDictionary *facts = dictionaryOrEmpty(network);
+    NSString *ssid = [facts objectForKey:@"ssid"];
+    if (![ssid isKindOfClass:[NSString class]] || [ssid length] == 0) continue;
+    NSMutableDictionary *record = [NSMutableDictionary dictionaryWithObject:ssid forKey:@"ssid"];
+    NSString *bssid = [facts objectForKey:@"bssid"];
+    [record setObject:([bssid isKindOfClass:[NSString class]] && [bssid length] ? bssid : @"ff:ff:ff:ff:ff:ff")
+               forKey:@"bssid"];
+    NSString *password = [facts objectForKey:@"password"];
+    if ([password isKindOfClass:[NSString class]] && [password length]) [record setObject:password forKey:@"password"];
+    [records addObject:record];
+  }
+  return records;
+}
+
+- (NSDictionary *)replyToMessage:(NSString *)identifier userInfo:(NSDictionary *)userInfo {
+  using namespace tessarin::message;
+  if ([identifier isEqualToString:@(kLibraryVersion)]) return [self libraryVersionReply];
+  if ([identifier isEqualToString:@(kBiometricsEnrolled)]) {
+    BOOL enrolled = [[_profile objectForKey:@"biometricsEnrolled"] boolValue];
+    return [NSDictionary dictionaryWithObject:[NSNumber numberWithInt:enrolled ? 1 : 0] forKey:@"idsn"];
+  }
+  if ([identifier isEqualToString:@(kApplications)]) {
+    return [NSDictionary dictionaryWithObject:arrayOrEmpty([_profile objectForKey:@"apps"]) forKey:@"apps"];
+  }
+  if ([identifier isEqualToString:@(kFolders)]) {
+    return [NSDictionary dictionaryWithObject:arrayOrEmpty([_profile objectForKey:@"folders"])
+                                       forKey:@"foldersRepresentation"];
+  }
+  if ([identifier isEqualToString:@(kWiFiNetworks)]) {
+    return [NSDictionary dictionaryWithObject:[self knownNetworks] forKey:@"networks"];
+  }
+  if ([identifier isEqualToString:@(kGetCallerIDVisibility)]) {
+    return [NSDictionary dictionaryWithObject:[NSNumber numberWithBool:_showsInLockScreen] forKey:@"showsInLockScreen"];
+  }
+  if ([identifier isEqualToString:@(kSetCallerIDVisibility)]) {
+    id shows = [userInfo objectForKey:@"showsInLockScreen"];
+    if ([shows respondsToSelector:@selector(boolValue)]) _showsInLockScreen = [shows boolValue];
+    return nil;
+  }
+  if ([identifier isEqualToString:@(kPasscodeResetRequest)]) {
+    // The real half asks the user to authenticate first; the simulated user always passes.
+    notify_post(tessarin::kPasscodeResetNotification);
+    return nil;
+  }
+  return nil;
+}
+
+@end

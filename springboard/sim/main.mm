@@ -1,0 +1,51 @@
+// The simulated SpringBoard: answers the settings bundle's messages on the device
+// named by TESSARIN_DEVICE_ROOT until it is sent SIGTERM or SIGINT.
+#import <Foundation/Foundation.h>
+#include <Simulator/Simulator.h>
+#include <notify.h>
+#include <signal.h>
+#include <stdio.h>
+#include <unistd.h>
+#import "SimulatedSpringBoard.h"
+#import "TessarinMessageServer.h"
+
+static volatile sig_atomic_t stopRequested = 0;
+
+static void requestStop(int signalNumber) { stopRequested = 1; }
+
+int main(int argc, char **argv) {
+  NSAutoreleasePool *pool = [[NSAutoreleasePool alloc] init];
+  if (argc > 1) SimDeviceUse(argv[1]);
+  if (SimDeviceRoot() == NULL) {
+    fprintf(stderr, "tessarin-springboard: no device (pass a device root or set %s)\n", SIM_DEVICE_ROOT_ENV);
+    return 2;
+  }
+  signal(SIGTERM, requestStop);
+  signal(SIGINT, requestStop);
+
+  NSDictionary *profile = SimDeviceProfile();
+  NSDictionary *facts = [profile objectForKey:@"springboard"];
+  id delaySetting = [facts isKindOfClass:[NSDictionary class]] ? [facts objectForKey:@"replyDelay"] : nil;
+  const double replyDelay = [delaySetting respondsToSelector:@selector(doubleValue)] ? [delaySetting doubleValue] : 0;
+
+  SimulatedSpringBoard *springBoard = [[SimulatedSpringBoard alloc] initWithProfile:profile];
+  TessarinMessageServer *server =
+      [[TessarinMessageServer alloc] initWithHandler:^NSDictionary *(NSString *identifier, NSDictionary *userInfo) {
+        // A slow SpringBoard: the reply is late, the way a busy device answers.
+        if (replyDelay > 0) usleep((useconds_t)(replyDelay * 1e6));
+        return [springBoard replyToMessage:identifier userInfo:userInfo];
+      }];
+  [server start];
+  notify_post("net.corvane.tessarin.simulator.ready");
+
+  while (!stopRequested) {
+    NSAutoreleasePool *turn = [[NSAutoreleasePool alloc] init];
+    SimRunLoopRunFor(0.05);
+    [turn drain];
+  }
+  [server stop];
+  [server release];
+  [springBoard release];
+  [pool drain];
+  return 0;
+}
