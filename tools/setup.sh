@@ -1,0 +1,16 @@
+#!/usr/bin/env bash
+# Installs the Debian packages the Linux build needs, when they are missing.
+set -euo pipefail
+
+packages=(clang cmake make libgnustep-base-dev gnustep-make libobjc-12-dev libblocksruntime-dev
+          googletest libgtest-dev libbenchmark-dev libclang-rt-14-dev)
+missing=()
+for package in "${packages[@]}"; do
+  dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q "install ok installed" || missing+=("$package")
+done
+if [ ${#missing[@]} -gt 0 ]; then
+  echo "Installing: ${missing[*]}"
+  if [ "$(id -u)" -ne 0 ]; then sudo=sudo; else sudo=; fi
+  $sudo apt-get update -qq
+  DEBIAN_FRONTEND=noninteractive $sudo apt-get install -y -qq "${missing[@]}" >/dev/null
+fi

@@ -1,0 +1,21 @@
+#!/usr/bin/env bash
+# Builds and runs every test: the plain build, then the same suite under
+# AddressSanitizer and UndefinedBehaviorSanitizer, then the static analyser.
+set -euo pipefail
+top=$(cd "$(dirname "$0")/.." && pwd)
+jobs=$(nproc)
+
+echo "== build"
+"$top/tools/build.sh" "$top/build"
+echo "== tests"
+(cd "$top/build" && ctest --output-on-failure -j"$jobs")
+
+echo "== tests under AddressSanitizer and UndefinedBehaviorSanitizer"
+"$top/tools/build.sh" "$top/build-sanitize" -DTESSARIN_SANITIZE=ON -DTESSARIN_BENCH=OFF
+# GNUstep keeps its class tables and caches for the life of the process: leak reports would be about them.
+export ASAN_OPTIONS=detect_leaks=0:abort_on_error=0
+export UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1
+(cd "$top/build-sanitize" && ctest --output-on-failure -j"$jobs")
+
+echo "== static analysis"
+"$top/tools/analyze.sh"
