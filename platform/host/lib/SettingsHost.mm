@@ -1,0 +1,62 @@
+#import "SettingsHost.h"
+#include <Simulator/Simulator.h>
+#include <libroot.h>
+#include <limits.h>
+#include <unistd.h>
+
+static NSString *hostPath(NSString *devicePath) {
+  char buffer[PATH_MAX];
+  if (SimDevicePath([devicePath fileSystemRepresentation], buffer, sizeof buffer) == NULL) return nil;
+  return [NSString stringWithUTF8String:buffer];
+}
+
+static NSString *jailPath(NSString *path) {
+  char resolved[PATH_MAX];
+  if (libroot_dyn_jbrootpath([path fileSystemRepresentation], resolved) == NULL) return path;
+  return [NSString stringWithUTF8String:resolved];
+}
+
+static NSString *entryDevicePath(void) {
+  return jailPath(@"/Library/PreferenceLoader/Preferences/TessarinPrefs.plist");
+}
+
+BOOL SettingsHostInstallPackage(void) {
+  NSFileManager *files = [NSFileManager defaultManager];
+  NSString *bundleTarget = hostPath(jailPath(@"/Library/PreferenceBundles/TessarinPrefs.bundle"));
+  NSString *entryTarget = hostPath(entryDevicePath());
+  if (bundleTarget == nil || entryTarget == nil) return NO;
+  [files createDirectoryAtPath:[bundleTarget stringByDeletingLastPathComponent] withIntermediateDirectories:YES
+                    attributes:nil error:NULL];
+  [files createDirectoryAtPath:[entryTarget stringByDeletingLastPathComponent] withIntermediateDirectories:YES
+                    attributes:nil error:NULL];
+  [files removeItemAtPath:bundleTarget error:NULL];
+  [files removeItemAtPath:entryTarget error:NULL];
+  // The bundle is linked, not copied, so a rebuilt bundle is what the next run loads.
+  BOOL linked = symlink(TESSARIN_BUNDLE_BUILD_PATH, [bundleTarget fileSystemRepresentation]) == 0;
+  NSString *entrySource = @TESSARIN_LAYOUT_PATH "/Library/PreferenceLoader/Preferences/TessarinPrefs.plist";
+  BOOL copied = [files copyItemAtPath:entrySource toPath:entryTarget error:NULL];
+  return linked && copied;
+}
+
+pid_t SettingsHostStartSpringBoard(void) {
+  NSDictionary *facts = [SimDeviceProfile() objectForKey:@"springboard"];
+  id running = [facts isKindOfClass:[NSDictionary class]] ? [facts objectForKey:@"running"] : nil;
+  if (running != nil && ![running boolValue]) return -1;
+  return SimSpringBoardStart(TESSARIN_SPRINGBOARD_BUILD_PATH);
+}
+
+NSDictionary *SettingsHostPreferenceEntry(void) {
+  NSDictionary *plist = [NSDictionary dictionaryWithContentsOfFile:hostPath(entryDevicePath())];
+  id entry = [plist objectForKey:@"entry"];
+  return [entry isKindOfClass:[NSDictionary class]] ? entry : nil;
+}
+
+NSBundle *SettingsHostLoadPreferenceBundle(void) {
+  NSDictionary *entry = SettingsHostPreferenceEntry();
+  NSString *name = [entry objectForKey:@"bundle"];
+  if (![name isKindOfClass:[NSString class]]) return nil;
+  NSString *bundleDevicePath = jailPath([NSString stringWithFormat:@"/Library/PreferenceBundles/%@.bundle", name]);
+  NSBundle *bundle = [NSBundle bundleWithPath:hostPath(bundleDevicePath)];
+  if (![bundle load]) return nil;
+  return bundle;
+}

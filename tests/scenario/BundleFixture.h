@@ -1,0 +1,49 @@
+// A fresh simulated device per test with the package installed, the bundle loaded into
+// this process as Settings loads it, and optionally the simulated SpringBoard running.
+#pragma once
+
+#import <Foundation/Foundation.h>
+#include <dlfcn.h>
+#include <gtest/gtest.h>
+#include <sys/types.h>
+
+#include <string>
+
+#include "DeviceFixture.h"
+
+// Object equality with both sides printed on failure.
+#define EXPECT_NSEQ(a, b)                                                              \
+    do {                                                                               \
+        id actual_ = (a), expected_ = (b);                                             \
+        EXPECT_TRUE(actual_ == expected_ || [actual_ isEqual:expected_])               \
+            << [[actual_ description] UTF8String] << " vs " << [[expected_ description] UTF8String]; \
+    } while (0)
+
+class BundleTest : public DeviceTest {
+protected:
+    void TearDown() override;
+
+    // Creates the device from `profile` (a name, or a profile dictionary changed by
+    // `edit`), installs the package, loads the bundle and, unless asked not to, starts SpringBoard.
+    void StartDevice(const char *profile = SIM_DEFAULT_PROFILE, bool withSpringBoard = true,
+                     void (^edit)(NSMutableDictionary *profile) = nil);
+    void StopSpringBoard();
+
+    // A C function or variable of the loaded bundle.
+    template <typename T>
+    T BundleSymbol(const char *name) {
+        void *symbol = dlsym(RTLD_DEFAULT, name);
+        EXPECT_NE(symbol, nullptr) << name;
+        return reinterpret_cast<T>(symbol);
+    }
+
+    // File helpers on device paths.
+    bool DeviceFileExists(const char *devicePath) const;
+    void WriteDeviceFile(const char *devicePath, NSData *data) const;
+    NSData *ReadDeviceFile(const char *devicePath) const;
+
+    // Preference file of the product's domain, as on disk.
+    NSDictionary *StoredPreferences() const;
+
+    pid_t springBoard_ = -1;
+};

@@ -1,0 +1,50 @@
+#import "BundleFixture.h"
+#include <unistd.h>
+#import "SettingsHost.h"
+
+void BundleTest::TearDown() {
+    StopSpringBoard();
+    DeviceTest::TearDown();
+}
+
+void BundleTest::StartDevice(const char *profile, bool withSpringBoard, void (^edit)(NSMutableDictionary *)) {
+    if (edit != nil) {
+        UseDevice(profile);
+        NSMutableDictionary *changed = [[SimDeviceProfile() mutableCopy] autorelease];
+        edit(changed);
+        NSString *path = [NSString stringWithFormat:@"%s.profile.plist", Root().c_str()];
+        ASSERT_TRUE([changed writeToFile:path atomically:YES]);
+        UseDevice([path fileSystemRepresentation]);
+        unlink([path fileSystemRepresentation]);
+    } else {
+        UseDevice(profile);
+    }
+    ASSERT_TRUE(SettingsHostInstallPackage());
+    ASSERT_NE(SettingsHostLoadPreferenceBundle(), nil);
+    if (withSpringBoard) {
+        springBoard_ = SettingsHostStartSpringBoard();
+        ASSERT_GT(springBoard_, 0);
+    }
+}
+
+void BundleTest::StopSpringBoard() {
+    if (springBoard_ > 0) SimSpringBoardStop(springBoard_);
+    springBoard_ = -1;
+}
+
+bool BundleTest::DeviceFileExists(const char *devicePath) const {
+    return access(HostPath(devicePath).c_str(), F_OK) == 0;
+}
+
+void BundleTest::WriteDeviceFile(const char *devicePath, NSData *data) const {
+    ASSERT_TRUE([data writeToFile:@(HostPath(devicePath).c_str()) atomically:YES]);
+}
+
+NSData *BundleTest::ReadDeviceFile(const char *devicePath) const {
+    return [NSData dataWithContentsOfFile:@(HostPath(devicePath).c_str())];
+}
+
+NSDictionary *BundleTest::StoredPreferences() const {
+    return [NSDictionary
+        dictionaryWithContentsOfFile:@(HostPath("/var/mobile/Library/Preferences/net.corvane.tessarin.plist").c_str())];
+}

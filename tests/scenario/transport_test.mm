@@ -1,0 +1,155 @@
+// The bundle's message transport against the simulated SpringBoard process.
+#import <AppSupport/CPDistributedMessagingCenter.h>
+#include <notify.h>
+#include <chrono>
+#include <thread>
+#import "BundleFixture.h"
+
+namespace {
+
+CPDistributedMessagingCenter *productCenter() {
+    return [CPDistributedMessagingCenter centerNamed:@"net.corvane.tessarin.center"];
+}
+
+double secondsSince(std::chrono::steady_clock::time_point start) {
+    return std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
+}
+
+NSData *archive(NSDictionary *reply) { return [NSKeyedArchiver archivedDataWithRootObject:reply]; }
+
+void setReplyDelay(NSMutableDictionary *profile, double seconds) {
+    NSMutableDictionary *springBoard = [[[profile objectForKey:@"springboard"] mutableCopy] autorelease];
+    if (springBoard == nil) springBoard = [NSMutableDictionary dictionary];
+    [springBoard setObject:@(seconds) forKey:@"replyDelay"];
+    [profile setObject:springBoard forKey:@"springboard"];
+}
+
+}  // namespace
+
+class TransportTest : public BundleTest {};
+
+TEST_F(TransportTest, EveryRequestGetsItsReplyAndTheReplyFileIsRemoved) {
+    StartDevice();
+    NSDictionary *profile = SimDeviceProfile();
+    struct Case { NSString *message; NSString *field; };
+    const Case cases[] = {{@"dlbv", @"dlbv"}, {@"idsn", @"idsn"}, {@"appL", @"apps"},
+                          {@"fldr", @"foldersRepresentation"}, {@"wfls", @"networks"}, {@"gpsi", @"showsInLockScreen"}};
+    for (const Case &c : cases) {
+        NSDictionary *reply = [productCenter() sendMessageAndReceiveReplyName:c.message userInfo:nil];
+        ASSERT_NE(reply, nil) << [c.message UTF8String];
+        EXPECT_NE([reply objectForKey:c.field], nil) << [c.message UTF8String];
+        std::string replyFile = std::string("/tmp/.") + [c.message UTF8String] + "-reply";
+        EXPECT_FALSE(DeviceFileExists(replyFile.c_str())) << replyFile;
+    }
+    NSDictionary *version = [productCenter() sendMessageAndReceiveReplyName:@"dlbv" userInfo:nil];
+    EXPECT_EQ([[version objectForKey:@"dlbv"] unsignedIntValue],
+              [[[profile objectForKey:@"springboard"] objectForKey:@"libraryVersion"] unsignedIntValue]);
+}
+
+TEST_F(TransportTest, WithoutSpringBoardARequestGivesNilAfterItsBudget) {
+    StartDevice(SIM_DEFAULT_PROFILE, /*withSpringBoard=*/false);
+    auto start = std::chrono::steady_clock::now();
+    EXPECT_EQ([productCenter() sendMessageAndReceiveReplyName:@"dlbv" userInfo:nil], nil);
+    double waited = secondsSince(start);
+    EXPECT_GE(waited, 0.7);
+    EXPECT_LT(waited, 3.0);  // the budget plus generous room for a loaded machine
+}
+
+TEST_F(TransportTest, AReplyHalfASecondLateIsReturned) {
+    StartDevice(SIM_DEFAULT_PROFILE, true, ^(NSMutableDictionary *profile) { setReplyDelay(profile, 0.5); });
+    NSDictionary *reply = [productCenter() sendMessageAndReceiveReplyName:@"idsn" userInfo:nil];
+    ASSERT_NE(reply, nil);
+    EXPECT_NE([reply objectForKey:@"idsn"], nil);
+}
+
+TEST_F(TransportTest, AReplyEightTenthsOfASecondLateIsNotReturnedAndStays) {
+    StartDevice(SIM_DEFAULT_PROFILE, true, ^(NSMutableDictionary *profile) { setReplyDelay(profile, 0.8); });
+    EXPECT_EQ([productCenter() sendMessageAndReceiveReplyName:@"idsn" userInfo:nil], nil);
+    // It lands afterwards and is left for the next exchange, which reads it as its reply.
+    ASSERT_TRUE(SimRunLoopRunUntil(^BOOL { return DeviceFileExists("/tmp/.idsn-reply"); }, 5.0));
+    StopSpringBoard();
+    NSDictionary *stale = [productCenter() sendMessageAndReceiveReplyName:@"idsn" userInfo:nil];
+    EXPECT_NE([stale objectForKey:@"idsn"], nil);
+    EXPECT_FALSE(DeviceFileExists("/tmp/.idsn-reply"));
+}
+
+TEST_F(TransportTest, AStaleReplyFileIsReadAsTheReply) {
+    StartDevice(SIM_DEFAULT_PROFILE, /*withSpringBoard=*/false);
+    WriteDeviceFile("/tmp/.dlbv-reply", archive(@{@"dlbv" : @(0x010203)}));
+    auto start = std::chrono::steady_clock::now();
+    NSDictionary *reply = [productCenter() sendMessageAndReceiveReplyName:@"dlbv" userInfo:nil];
+    EXPECT_LT(secondsSince(start), 0.7);
+    EXPECT_EQ([[reply objectForKey:@"dlbv"] intValue], 0x010203);
+    EXPECT_FALSE(DeviceFileExists("/tmp/.dlbv-reply"));
+}
+
+TEST_F(TransportTest, AnUnreadableReplyGivesNilAndStaysOnDisk) {
+    StartDevice(SIM_DEFAULT_PROFILE, /*withSpringBoard=*/false);
+    NSData *archived = archive(@{@"dlbv" : @(7)});
+    const struct { const char *what; NSData *bytes; } cases[] = {
+        {"text", [@"not an archive" dataUsingEncoding:NSUTF8StringEncoding]},
+        {"empty", [NSData data]},
+        {"truncated archive", [archived subdataWithRange:NSMakeRange(0, [archived length] / 2)]},
+        {"plain property list", [NSPropertyListSerialization dataWithPropertyList:@{@"dlbv" : @(7)}
+                                                                           format:NSPropertyListBinaryFormat_v1_0
+                                                                          options:0 error:NULL]},
+    };
+    for (const auto &c : cases) {
+        WriteDeviceFile("/tmp/.dlbv-reply", c.bytes);
+        EXPECT_EQ([productCenter() sendMessageAndReceiveReplyName:@"dlbv" userInfo:nil], nil) << c.what;
+        NSData *left = ReadDeviceFile("/tmp/.dlbv-reply");
+        EXPECT_TRUE([left isEqualToData:c.bytes]) << c.what;
+    }
+}
+
+TEST_F(TransportTest, OneWayMessagesWriteTheRequestFileOnlyWithUserInfo) {
+    StartDevice();
+    unsigned resetsBefore = SimNotifyPostCount("net.corvane.tessarin.passcodeReset");
+
+    EXPECT_TRUE([productCenter() sendMessageName:@"spsi" userInfo:@{@"showsInLockScreen" : @(NO)}]);
+    NSDictionary *request = [NSDictionary dictionaryWithContentsOfFile:@(HostPath("/tmp/.spsi").c_str())];
+    EXPECT_NSEQ([request objectForKey:@"showsInLockScreen"], @(NO));
+    // SpringBoard read the request when the signal came, so the file was there first.
+    NSDictionary *shows = [productCenter() sendMessageAndReceiveReplyName:@"gpsi" userInfo:nil];
+    EXPECT_EQ([[shows objectForKey:@"showsInLockScreen"] boolValue], NO);
+
+    EXPECT_TRUE([productCenter() sendMessageName:@"prrc" userInfo:nil]);
+    EXPECT_FALSE(DeviceFileExists("/tmp/.prrc"));
+    EXPECT_TRUE(SimRunLoopRunUntil(^BOOL {
+        return SimNotifyPostCount("net.corvane.tessarin.passcodeReset") > resetsBefore;
+    }, 5.0));
+}
+
+TEST_F(TransportTest, TheSignalStateCarriesTheMessageCode) {
+    StartDevice(SIM_DEFAULT_PROFILE, /*withSpringBoard=*/false);
+    [productCenter() sendMessageName:@"dlbv" userInfo:nil];
+    int token = NOTIFY_TOKEN_INVALID;
+    ASSERT_EQ(notify_register_check("net.corvane.tessarin.ipcoverride", &token), (uint32_t)NOTIFY_STATUS_OK);
+    uint64_t state = 0;
+    notify_get_state(token, &state);
+    EXPECT_EQ(state, 0x646C6276u);
+    EXPECT_GE(SimNotifyPostCount("net.corvane.tessarin.ipcoverride"), 1u);
+}
+
+@interface EchoServer : NSObject
+- (NSDictionary *)handle:(NSString *)name userInfo:(NSDictionary *)userInfo;
+@end
+@implementation EchoServer
+- (NSDictionary *)handle:(NSString *)name userInfo:(NSDictionary *)userInfo {
+    return @{@"echo" : name};
+}
+@end
+
+TEST_F(TransportTest, OtherCentresKeepThePlatformChannel) {
+    StartDevice(SIM_DEFAULT_PROFILE, /*withSpringBoard=*/false);
+    EchoServer *echo = [[[EchoServer alloc] init] autorelease];
+    CPDistributedMessagingCenter *other = [CPDistributedMessagingCenter centerNamed:@"com.example.other"];
+    [other runServerOnCurrentThread];
+    [other registerForMessageName:@"dlbv" target:echo selector:@selector(handle:userInfo:)];
+    unsigned signals = SimNotifyPostCount("net.corvane.tessarin.ipcoverride");
+
+    NSDictionary *reply = [other sendMessageAndReceiveReplyName:@"dlbv" userInfo:nil];
+    EXPECT_NSEQ([reply objectForKey:@"echo"], @"dlbv");
+    EXPECT_EQ(SimNotifyPostCount("net.corvane.tessarin.ipcoverride"), signals);
+    EXPECT_FALSE(DeviceFileExists("/tmp/.dlbv-reply"));
+}
