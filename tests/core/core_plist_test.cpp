@@ -49,7 +49,7 @@ struct HandMade {
         for (const auto &o : offsetOverrides) offsets[o.first] = o.second;
         const uint64_t table = out.size();
         for (uint64_t off : offsets)
-            for (int i = offsetSize - 1; i >= 0; --i) out.push_back(static_cast<uint8_t>(off >> (8 * i)));
+            for (int i = offsetSize - 1; i >= 0; --i) out.push_back(i < 8 ? static_cast<uint8_t>(off >> (8 * i)) : 0);
         for (int i = 0; i < 6; ++i) out.push_back(0);
         out.push_back(offsetSize);
         out.push_back(refSize);
