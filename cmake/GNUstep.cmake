@@ -33,4 +33,6 @@ foreach(lang OBJC OBJCXX)
   add_compile_options("$<$<COMPILE_LANGUAGE:${lang}>:-idirafter;${GCC_OBJC_DIR}/include>")
 endforeach()
 link_directories(${GCC_OBJC_DIR})
-set(OBJC_LIBS gnustep-base objc BlocksRuntime pthread dl m)
+# BlocksRuntime must come before gnustep-base: GNUstep Base exports its own _Block_copy and
+# _NSConcreteStackBlock, and with it first Block_copy hands back the stack block uncopied.
+set(OBJC_LIBS BlocksRuntime gnustep-base objc pthread dl m)

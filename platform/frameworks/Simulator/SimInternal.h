@@ -27,6 +27,9 @@ NSString *SimPrivatePath(NSString *name);
 /* Creates a folder and its parents; YES when it exists afterwards. */
 BOOL SimMakeDirectories(NSString *hostPath);
 
+/* Calls [target sel:arg] later on the main run loop (never synchronously, even on the main thread). */
+void SimPerformOnMainLoop(id target, SEL sel, id arg);
+
 /* Property-list values of the profile in use (nil when absent or of another type). */
 id SimProfileValue(NSString *key, Class expectedClass);
 

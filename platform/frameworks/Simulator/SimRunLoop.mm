@@ -2,6 +2,7 @@
 
 #import <Foundation/Foundation.h>
 #include <Simulator/Simulator.h>
+#include "SimInternal.h"
 
 #include <unistd.h>
 
@@ -41,4 +42,15 @@ BOOL SimRunLoopRunUntil(BOOL (^condition)(void), double timeout)
     }
     [pool release];
     return done;
+}
+
+void SimPerformOnMainLoop(id target, SEL sel, id arg)
+{
+    if ([NSThread isMainThread]) {
+        // performSelectorOnMainThread: would run at once here; queue for the next turn instead.
+        NSArray *modes = [NSArray arrayWithObjects:NSDefaultRunLoopMode, NSRunLoopCommonModes, nil];
+        [[NSRunLoop currentRunLoop] performSelector:sel target:target argument:arg order:0 modes:modes];
+    } else {
+        [target performSelectorOnMainThread:sel withObject:arg waitUntilDone:NO];
+    }
 }

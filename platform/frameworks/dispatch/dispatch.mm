@@ -3,6 +3,7 @@
 
 #import <Foundation/Foundation.h>
 #include <dispatch/dispatch.h>
+#include "Simulator/SimInternal.h"
 
 #include <Block.h>
 #include <pthread.h>
@@ -53,19 +54,30 @@ static double secondsUntil(dispatch_time_t when)
     return when > now ? (double)(when - now) / NSEC_PER_SEC : 0;
 }
 
-// One unit of work, holding a copied block.
+// One unit of work, holding a copied block (blocks are not objects for this runtime:
+// Block_copy/Block_release, never -copy).
 @interface SimDispatchWork : NSObject {
     dispatch_block_t _block;
     double _delay;
 }
-@property(nonatomic, copy) dispatch_block_t block;
-@property(nonatomic, assign) double delay;
+@property(nonatomic, readonly) dispatch_block_t block;
+@property(nonatomic, readonly) double delay;
+- (instancetype)initWithBlock:(dispatch_block_t)block delay:(double)delay;
 - (void)run;
 @end
 
 @implementation SimDispatchWork
 @synthesize block = _block;
 @synthesize delay = _delay;
+
+- (instancetype)initWithBlock:(dispatch_block_t)block delay:(double)delay
+{
+    if ((self = [super init])) {
+        _block = Block_copy(block);
+        _delay = delay;
+    }
+    return self;
+}
 
 - (void)run
 {
@@ -76,17 +88,14 @@ static double secondsUntil(dispatch_time_t when)
 
 - (void)dealloc
 {
-    [_block release];
+    if (_block) Block_release(_block);
     [super dealloc];
 }
 @end
 
 static SimDispatchWork *makeWork(dispatch_block_t block, double delay)
 {
-    SimDispatchWork *work = [[[SimDispatchWork alloc] init] autorelease];
-    [work setBlock:block];
-    [work setDelay:delay];
-    return work;
+    return [[[SimDispatchWork alloc] initWithBlock:block delay:delay] autorelease];
 }
 
 // MARK: - Main queue
@@ -111,7 +120,7 @@ static void mainEnqueue(SimDispatchWork *work)
     gDrainScheduled = true;
     pthread_mutex_unlock(&gMainLock);
     if (schedule)
-        [SimMainQueueDrainer performSelectorOnMainThread:@selector(drain) withObject:nil waitUntilDone:NO];
+        SimPerformOnMainLoop([SimMainQueueDrainer class], @selector(drain), nil);
 }
 
 @implementation SimMainQueueDrainer
