@@ -22,8 +22,12 @@ struct ChildHelperRegistration {
     static int name(int argc, char **argv)
 
 // Call first thing in main: when the process was started as a child, runs the helper and
-// returns true with its exit status in *status.
+// returns true with its exit status in *status. A child may also be named by the
+// environment variable below (for launchers that pass no arguments); it is cleared at once.
+#define CHILD_HELPER_ENV "TESSARIN_CHILD_HELPER"
 bool RunChildHelperIfRequested(int argc, char **argv, int *status);
+// Path of the running test binary.
+std::string SelfExecutablePath();
 
 // Starts a helper in a child process (inherits the environment, hence the device). -1 on failure.
 pid_t SpawnChild(const char *name, const std::vector<std::string> &args = {});

@@ -2,6 +2,7 @@
 
 #include <signal.h>
 #include <spawn.h>
+#include <stdlib.h>
 #include <string.h>
 #include <sys/wait.h>
 #include <time.h>
@@ -27,18 +28,35 @@ ChildHelperRegistration::ChildHelperRegistration(const char *name, ChildHelper f
 
 bool RunChildHelperIfRequested(int argc, char **argv, int *status)
 {
+    const char *fromEnv = getenv(CHILD_HELPER_ENV);
+    if (fromEnv != nullptr && fromEnv[0] != '\0') {
+        std::string name = fromEnv;
+        unsetenv(CHILD_HELPER_ENV);
+        auto it = helpers().find(name);
+        char *args[] = {const_cast<char *>(name.c_str()), nullptr};
+        *status = it == helpers().end() ? 127 : it->second(1, args);
+        return true;
+    }
     if (argc < 3 || strcmp(argv[1], kChildFlag) != 0) return false;
     auto it = helpers().find(argv[2]);
     *status = it == helpers().end() ? 127 : it->second(argc - 2, argv + 2);
     return true;
 }
 
-pid_t SpawnChild(const char *name, const std::vector<std::string> &args)
+std::string SelfExecutablePath()
 {
     char self[4096];
     ssize_t n = readlink("/proc/self/exe", self, sizeof self - 1);
-    if (n <= 0) return -1;
+    if (n <= 0) return std::string();
     self[n] = '\0';
+    return self;
+}
+
+pid_t SpawnChild(const char *name, const std::vector<std::string> &args)
+{
+    std::string selfPath = SelfExecutablePath();
+    if (selfPath.empty()) return -1;
+    char *self = const_cast<char *>(selfPath.c_str());
     std::vector<char *> argv;
     argv.push_back(self);
     argv.push_back(const_cast<char *>(kChildFlag));
