@@ -41,7 +41,7 @@ struct RawNode {
 // so a small file could otherwise describe an enormous tree).
 inline constexpr size_t kMaxDepth = 64;
 inline constexpr size_t kMaxNodes = size_t{1} << 18;
-inline constexpr size_t kMaxPayloadBytes = size_t{64} << 20;
+inline constexpr size_t kMaxPayloadBytes = size_t{16} << 20;
 
 // Converts a tree to a Value; nullopt when it holds a UID anywhere.
 // Duplicate dictionary keys: the last one wins.
