@@ -24,6 +24,7 @@ void initializeWatchingForGlyphView(id self, SEL _cmd) {
 }  // namespace
 
 void tessarinStartUp(void) {
+  NSAutoreleasePool *pool = [[NSAutoreleasePool alloc] init];
   installExceptionLogger();
   installMessageTransport();
   dlopen("/usr/lib/libsubstrate.dylib", RTLD_NOW);
@@ -33,18 +34,5 @@ void tessarinStartUp(void) {
                   (IMP *)&platformInitialize);
   setLegacyVersionFlags();
   registerTransportSignal();
-}
-
-// Load time: the classes of this image are registered, so Objective-C is safe to use.
-@interface TessarinStartUp : NSObject
-@end
-
-@implementation TessarinStartUp
-
-+ (void)load {
-  NSAutoreleasePool *pool = [[NSAutoreleasePool alloc] init];
-  tessarinStartUp();
   [pool drain];
 }
-
-@end

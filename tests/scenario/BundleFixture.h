@@ -11,14 +11,6 @@
 
 #include "DeviceFixture.h"
 
-// Object equality with both sides printed on failure.
-#define EXPECT_NSEQ(a, b)                                                              \
-    do {                                                                               \
-        id actual_ = (a), expected_ = (b);                                             \
-        EXPECT_TRUE(actual_ == expected_ || [actual_ isEqual:expected_])               \
-            << [[actual_ description] UTF8String] << " vs " << [[expected_ description] UTF8String]; \
-    } while (0)
-
 class BundleTest : public DeviceTest {
 protected:
     void TearDown() override;

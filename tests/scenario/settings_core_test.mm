@@ -1,0 +1,175 @@
+// The bundle's settings core as loaded into Settings: the preference store and its
+// change signal, the log files, the hardware tests and the Wi-Fi manager.
+#include <CoreFoundation/CoreFoundation.h>
+#include <notify.h>
+#include <unistd.h>
+#import "BundleFixture.h"
+#include "ChildProcess.h"
+
+namespace {
+
+using SetValue = void (*)(id, const char *);
+using GetValue = id (*)(const char *);
+using Reset = void (*)(void);
+using Query = BOOL (*)(void);
+using Log = void (*)(const char *);
+
+const char *const kPrefsChanged = "net.corvane.tessarin.prefsChanged";
+
+NSArray *lines(NSData *data) {
+    NSString *text = [[[NSString alloc] initWithData:data encoding:NSUTF8StringEncoding] autorelease];
+    NSMutableArray *result = [NSMutableArray array];
+    for (NSString *line in [text componentsSeparatedByString:@"\n"]) {
+        if ([line length]) [result addObject:line];
+    }
+    return result;
+}
+
+}  // namespace
+
+// Another process on the device (SpringBoard, say) writes a key of the domain.
+CHILD_HELPER(writePasscodeElsewhere) {
+    CFStringRef domain = CFSTR("net.corvane.tessarin");
+    CFPreferencesAppSynchronize(domain);
+    CFPreferencesSetAppValue(CFSTR("passcode"), (CFPropertyListRef)@(argv[1]), domain);
+    CFPreferencesAppSynchronize(domain);
+    return 0;
+}
+
+CHILD_HELPER(startGracePeriodElsewhere) {
+    int token = 0;
+    notify_register_check("net.corvane.tessarin.graceperiod", &token);
+    notify_set_state(token, 1);
+    return 0;
+}
+
+class SettingsCoreTest : public BundleTest {};
+
+TEST_F(SettingsCoreTest, WritesReachDiskAndPostNothingByThemselves) {
+    StartDevice(SIM_DEFAULT_PROFILE, /*withSpringBoard=*/false);
+    auto set = BundleSymbol<SetValue>("setPrefsValueForKey");
+    auto get = BundleSymbol<GetValue>("getPrefsValueForKey");
+    unsigned posts = SimNotifyPostCount(kPrefsChanged);
+
+    set(@"0042", "passcode");
+    set(@[ @"com.apple.mobilesafari" ], "protected");
+    EXPECT_NSEQ([StoredPreferences() objectForKey:@"passcode"], @"0042");
+    id passcode = get("passcode");
+    EXPECT_NSEQ(passcode, @"0042");  // text, leading zeros kept
+    [passcode release];
+
+    set(nil, "passcode");
+    EXPECT_EQ([StoredPreferences() objectForKey:@"passcode"], nil);
+    EXPECT_EQ(get("passcode"), nil);
+    EXPECT_NSEQ([StoredPreferences() objectForKey:@"protected"], @[ @"com.apple.mobilesafari" ]);
+    EXPECT_EQ(SimNotifyPostCount(kPrefsChanged), posts);
+}
+
+TEST_F(SettingsCoreTest, ReadsWhatAnotherProcessWroteAfterSynchronising) {
+    StartDevice(SIM_DEFAULT_PROFILE, /*withSpringBoard=*/false);
+    auto set = BundleSymbol<SetValue>("setPrefsValueForKey");
+    auto get = BundleSymbol<GetValue>("getPrefsValueForKey");
+    set(@"1111", "passcode");
+    ASSERT_EQ(RunChild("writePasscodeElsewhere", {"2222"}), 0);
+    id passcode = get("passcode");
+    EXPECT_NSEQ(passcode, @"2222");
+    [passcode release];
+    // A write of ours keeps the other process's keys.
+    set(@(NO), "Enabled");
+    EXPECT_NSEQ([StoredPreferences() objectForKey:@"passcode"], @"2222");
+    EXPECT_NSEQ([StoredPreferences() objectForKey:@"Enabled"], @(NO));
+}
+
+TEST_F(SettingsCoreTest, ResetAllLeavesNoKeyAndPostsOnce) {
+    StartDevice(SIM_DEFAULT_PROFILE, /*withSpringBoard=*/false);
+    auto set = BundleSymbol<SetValue>("setPrefsValueForKey");
+    auto get = BundleSymbol<GetValue>("getPrefsValueForKey");
+    set(@"1234", "passcode");
+    set(@[ @"com.apple.MobileSMS" ], "protected");
+    set(@"", "alertTitle");
+    unsigned posts = SimNotifyPostCount(kPrefsChanged);
+
+    BundleSymbol<Reset>("resetAllPreferences")();
+    EXPECT_EQ([StoredPreferences() count], 0u);
+    for (const char *key : {"passcode", "protected", "alertTitle", "Enabled"}) EXPECT_EQ(get(key), nil) << key;
+    EXPECT_EQ(SimNotifyPostCount(kPrefsChanged), posts + 1);
+}
+
+TEST_F(SettingsCoreTest, GracePeriodFollowsSpringBoardsState) {
+    StartDevice(SIM_DEFAULT_PROFILE, /*withSpringBoard=*/false);
+    auto grace = BundleSymbol<Query>("gracePeriodIsActive");
+    EXPECT_FALSE(grace());
+    ASSERT_EQ(RunChild("startGracePeriodElsewhere"), 0);
+    EXPECT_TRUE(grace());
+}
+
+TEST_F(SettingsCoreTest, LogLinesGoUnderTheJailRoot) {
+    StartDevice(SIM_DEFAULT_PROFILE, /*withSpringBoard=*/false);  // rootless: jail root /var/jb
+    auto log = BundleSymbol<Log>("mylog");
+    log("first");
+    log("second line");
+    EXPECT_FALSE(DeviceFileExists("/tmp/syslog"));
+    NSArray *written = lines(ReadDeviceFile("/var/jb/tmp/syslog"));
+    ASSERT_EQ([written count], 2u);
+    NSString *pid = [NSString stringWithFormat:@"[%d] ", getpid()];
+    NSString *first = [written objectAtIndex:0];
+    EXPECT_TRUE([first hasPrefix:@"Ada's iPhone "]) << [first UTF8String];
+    EXPECT_NE([first rangeOfString:pid].location, (NSUInteger)NSNotFound) << [first UTF8String];
+    EXPECT_TRUE([first hasSuffix:@"] first"]) << [first UTF8String];
+    EXPECT_TRUE([[written objectAtIndex:1] hasSuffix:@"] second line"]);
+}
+
+TEST_F(SettingsCoreTest, EveryExceptionCreatedIsLogged) {
+    StartDevice(SIM_DEFAULT_PROFILE, /*withSpringBoard=*/false);
+    [NSException exceptionWithName:@"TestException" reason:@"made, never raised" userInfo:nil];
+    @try {
+        [NSException raise:@"RaisedException" format:@"raised %d", 1];
+    } @catch (NSException *) {
+    }
+    NSArray *logged = lines(ReadDeviceFile("/tmp/TessarinCrashLog.txt"));
+    ASSERT_GE([logged count], 2u);
+    EXPECT_NSEQ([logged objectAtIndex:0], @"EXCEPTION WITH NAME TestException REASON made, never raised userinfo (null)");
+    EXPECT_TRUE([[logged objectAtIndex:1] hasPrefix:@"EXCEPTION WITH NAME RaisedException REASON raised 1"]);
+}
+
+TEST_F(SettingsCoreTest, HardwareTestsFollowTheRegistry) {
+    // A Face ID device whose registry shows only the neural engine.
+    StartDevice(SIM_DEFAULT_PROFILE, false, ^(NSMutableDictionary *profile) {
+        [profile setObject:@[ @"H11ANEIn" ] forKey:@"ioServices"];
+    });
+    auto sensor = BundleSymbol<Query>("iPhone64Bit");
+    auto pearl = BundleSymbol<Query>("hasPearl");
+    BOOL *pearlCam = BundleSymbol<BOOL *>("hasPearlCam");
+    EXPECT_TRUE(sensor());
+    EXPECT_TRUE(*pearlCam);
+    EXPECT_TRUE(pearl());
+    unsigned asked = SimIOKitMatchCount();
+    EXPECT_TRUE(pearl());
+    EXPECT_EQ(SimIOKitMatchCount(), asked);  // asked IOKit only the first time
+}
+
+TEST_F(SettingsCoreTest, WiFiManagerListsNetworksAndTrustsByBssid) {
+    StartDevice(SIM_DEFAULT_PROFILE, /*withSpringBoard=*/false);
+    id manager = [NSClassFromString(@"TessarinWiFiManager") performSelector:@selector(sharedInstance)];
+    ASSERT_NE(manager, nil);
+    NSArray *networks = [manager performSelector:@selector(networksArrayAsDictionaries)];
+    NSMutableArray *names = [NSMutableArray array];
+    for (NSDictionary *network in networks) [names addObject:[network objectForKey:@"ssid"]];
+    EXPECT_NSEQ(names, (@[ @"Office-5G", @"Home Network", @"Cafe Guest", @"Hidden Lab" ]));
+    EXPECT_NSEQ([[networks lastObject] objectForKey:@"bssid"], @"ff:ff:ff:ff:ff:ff");
+    EXPECT_EQ([[networks lastObject] objectForKey:@"password"], nil);
+    EXPECT_NSEQ([[networks objectAtIndex:0] objectForKey:@"password"], @"work1234");
+
+    auto set = BundleSymbol<SetValue>("setPrefsValueForKey");
+    SEL isOnTrusted = @selector(isOnTrustedNetwork);
+    auto trustedImp = (BOOL(*)(id, SEL))[manager methodForSelector:isOnTrusted];
+    auto trusted = [=] { return trustedImp(manager, isOnTrusted); };
+    EXPECT_FALSE(trusted());
+    set(@[], "allowedWiFis");
+    EXPECT_FALSE(trusted());
+    // The current network's BSSID with another name still counts: the match is by BSSID alone.
+    set(@[ @{@"bssid" : @"a4:2b:b0:11:22:33", @"ssid" : @"Renamed"} ], "allowedWiFis");
+    EXPECT_TRUE(trusted());
+    set(@[ @{@"bssid" : @"f0:9f:c2:44:55:66", @"ssid" : @"Home Network"} ], "allowedWiFis");
+    EXPECT_FALSE(trusted());
+}
