@@ -1,6 +1,7 @@
 #import "MessageProbe.h"
 #import <Foundation/Foundation.h>
 #import <AppSupport/CPDistributedMessagingCenter.h>
+#include <Simulator/Simulator.h>
 #include <chrono>
 #include <stdio.h>
 
@@ -49,7 +50,13 @@ int runMessageProbe(void) {
       NSDictionary *reply = [center sendMessageAndReceiveReplyName:name userInfo:probe.userInfo];
       printf("  %s  %7.1f ms  %s\n", probe.identifier, millisecondsSince(start), [oneLine(reply) UTF8String]);
     } else {
+      unsigned handled = SimNotifyPostCount("net.corvane.tessarin.simulator.handled");
       BOOL sent = [center sendMessageName:name userInfo:probe.userInfo];
+      // Nothing answers a one-way message; wait until SpringBoard has taken it in, so the
+      // next message does not replace its code before it is read.
+      SimRunLoopRunUntil(^BOOL {
+        return SimNotifyPostCount("net.corvane.tessarin.simulator.handled") > handled;
+      }, 1.0);
       printf("  %s  %7.1f ms  one-way, %s\n", probe.identifier, millisecondsSince(start), sent ? "sent" : "not sent");
     }
     [pool drain];

@@ -10,6 +10,7 @@
 #import "TessarinMessageServer.h"
 
 static volatile sig_atomic_t stopRequested = 0;
+static const char *const kHandledNotification = "net.corvane.tessarin.simulator.handled";
 
 static void requestStop(int signalNumber) { stopRequested = 1; }
 
@@ -33,7 +34,10 @@ int main(int argc, char **argv) {
       [[TessarinMessageServer alloc] initWithHandler:^NSDictionary *(NSString *identifier, NSDictionary *userInfo) {
         // A slow SpringBoard: the reply is late, the way a busy device answers.
         if (replyDelay > 0) usleep((useconds_t)(replyDelay * 1e6));
-        return [springBoard replyToMessage:identifier userInfo:userInfo];
+        NSDictionary *reply = [springBoard replyToMessage:identifier userInfo:userInfo];
+        // Lets tests and tools know a one-way message has been taken in.
+        notify_post(kHandledNotification);
+        return reply;
       }];
   [server start];
   notify_post("net.corvane.tessarin.simulator.ready");

@@ -106,7 +106,12 @@ TEST_F(TransportTest, OneWayMessagesWriteTheRequestFileOnlyWithUserInfo) {
     StartDevice();
     unsigned resetsBefore = SimNotifyPostCount("net.corvane.tessarin.passcodeReset");
 
+    unsigned handled = SimNotifyPostCount("net.corvane.tessarin.simulator.handled");
     EXPECT_TRUE([productCenter() sendMessageName:@"spsi" userInfo:@{@"showsInLockScreen" : @(NO)}]);
+    // One shared code: the next message must wait until SpringBoard has read this one.
+    ASSERT_TRUE(SimRunLoopRunUntil(^BOOL {
+        return SimNotifyPostCount("net.corvane.tessarin.simulator.handled") > handled;
+    }, 5.0));
     NSDictionary *request = [NSDictionary dictionaryWithContentsOfFile:@(HostPath("/tmp/.spsi").c_str())];
     EXPECT_NSEQ([request objectForKey:@"showsInLockScreen"], @(NO));
     // SpringBoard read the request when the signal came, so the file was there first.
