@@ -1,0 +1,59 @@
+// Shared internals of the UIKit stand-in.
+#pragma once
+
+#import <UIKit/UIKitSimulation.h>
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+NSDictionary *SimUIKitProfile(void);
+CGFloat SimUIKitScreenScale(void);
+BOOL SimUIKitDarkMode(void);
+void SimUIKitRecordURL(NSURL *url);
+void SimUIKitRecordAnimation(NSTimeInterval duration, NSTimeInterval delay, NSUInteger options);
+void SimUIKitResetResponders(void);
+UIResponder *SimUIKitFirstResponder(void);
+void SimUIKitResetApplication(void);
+/* Approximate size of text set in `font` (max width 0: unbounded; max lines 0: any). */
+CGSize SimUIKitTextSize(NSString *text, UIFont *font, CGFloat maxWidth, NSInteger maxLines);
+#ifdef __cplusplus
+}
+#endif
+
+@interface UIView (SimInternal)
+/* The controller whose view this is (not retained). */
+- (id)_simViewDelegate;
+- (void)_simSetViewDelegate:(id)controller;
+@end
+
+@interface UIViewController (SimInternal)
+/* Appearance transitions: "will" now, "did" when the transition ends. */
+- (void)_simBeginAppearance:(BOOL)appearing animated:(BOOL)animated;
+- (void)_simEndAppearance:(BOOL)appearing animated:(BOOL)animated;
+- (BOOL)_simIsAppeared;
+/* The children that receive appearance callbacks with this controller. */
+- (NSArray *)_simAppearanceChildren;
+- (void)_simSetParent:(UIViewController *)parent;
+@end
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+void SimUIKitRegisterWindow(UIWindow *window);
+void SimUIKitSetKeyWindow(UIWindow *window);
+#ifdef __cplusplus
+}
+#endif
+
+@interface UITouch (SimInternal)
+- (instancetype)_simInitWithView:(UIView *)view windowLocation:(CGPoint)location;
+- (void)_simSetPhase:(UITouchPhase)phase;
+@end
+
+@interface UIEvent (SimInternal)
+- (instancetype)_simInitWithTouches:(NSSet *)touches;
+@end
+
+@interface UIGestureRecognizer (SimInternal)
+- (BOOL)_simRecognizeTap:(UITouch *)touch;
+@end

@@ -1,0 +1,618 @@
+// Tables and their cells.
+#import <UIKit/UIKitSimulation.h>
+#include <math.h>
+
+#import "UIKitInternal.h"
+
+const CGFloat UITableViewAutomaticDimension = -1;
+
+@implementation NSIndexPath (UIKitAdditions)
++ (instancetype)indexPathForRow:(NSInteger)row inSection:(NSInteger)section {
+  NSUInteger idx[2] = {(NSUInteger)section, (NSUInteger)row};
+  return [self indexPathWithIndexes:idx length:2];
+}
++ (instancetype)indexPathForItem:(NSInteger)item inSection:(NSInteger)section {
+  return [self indexPathForRow:item inSection:section];
+}
+- (NSInteger)section {
+  return self.length > 0 ? (NSInteger)[self indexAtPosition:0] : NSNotFound;
+}
+- (NSInteger)row {
+  return self.length > 1 ? (NSInteger)[self indexAtPosition:1] : NSNotFound;
+}
+- (NSInteger)item {
+  return self.row;
+}
+@end
+
+@interface _UITableViewCellSeparatorView : UIView
+@end
+@implementation _UITableViewCellSeparatorView
+@end
+
+@implementation UITableViewCell
+@synthesize style = _style;
+@synthesize reuseIdentifier = _reuseIdentifier;
+@synthesize editingAccessoryView = _editingAccessoryView;
+@synthesize editingAccessoryType = _editingAccessoryType;
+@synthesize selectionStyle = _selectionStyle;
+@synthesize showsReorderControl = _showsReorderControl;
+@synthesize indentationLevel = _indentationLevel;
+@synthesize indentationWidth = _indentationWidth;
+@synthesize separatorInset = _separatorInset;
+- (instancetype)initWithFrame:(CGRect)frame {
+  return [self initWithStyle:UITableViewCellStyleDefault reuseIdentifier:nil];
+}
+- (instancetype)initWithStyle:(UITableViewCellStyle)style reuseIdentifier:(NSString *)reuseIdentifier {
+  CGFloat width = [UIScreen mainScreen].bounds.size.width;
+  if ((self = [super initWithFrame:CGRectMake(0, 0, width, 44)])) {
+    _style = style;
+    _reuseIdentifier = [reuseIdentifier copy];
+    _selectionStyle = UITableViewCellSelectionStyleDefault;
+    _indentationWidth = 10;
+    _separatorInset = UIEdgeInsetsMake(0, 15, 0, 0);
+    _separatorStyle = UITableViewCellSeparatorStyleSingleLine;
+    _contentView = [[UIView alloc] initWithFrame:self.bounds];
+    [self addSubview:_contentView];
+    _textLabel = [[UILabel alloc] initWithFrame:CGRectZero];
+    _textLabel.font = [UIFont systemFontOfSize:17];
+    if (style != UITableViewCellStyleDefault) {
+      _detailTextLabel = [[UILabel alloc] initWithFrame:CGRectZero];
+      _detailTextLabel.font = [UIFont systemFontOfSize:style == UITableViewCellStyleSubtitle ? 12 : 17];
+      if (style == UITableViewCellStyleValue1) _detailTextLabel.textColor = [UIColor secondaryLabelColor];
+      if (style == UITableViewCellStyleValue2) _textLabel.textColor = [UIColor systemBlueColor];
+    }
+    _imageView = [[UIImageView alloc] initWithFrame:CGRectZero];
+    [_contentView addSubview:_imageView];
+    [_contentView addSubview:_textLabel];
+    if (_detailTextLabel) [_contentView addSubview:_detailTextLabel];
+    _separatorView = [[_UITableViewCellSeparatorView alloc] initWithFrame:CGRectZero];
+    [self addSubview:_separatorView];
+    self.backgroundColor = [UIColor secondarySystemGroupedBackgroundColor];
+  }
+  return self;
+}
+- (void)dealloc {
+  [_reuseIdentifier release];
+  [_contentView release];
+  [_textLabel release];
+  [_detailTextLabel release];
+  [_imageView release];
+  [_accessoryView release];
+  [_editingAccessoryView release];
+  [_backgroundView release];
+  [_selectedBackgroundView release];
+  [_separatorColor release];
+  [_separatorView release];
+  [super dealloc];
+}
+- (UIView *)contentView {
+  return _contentView;
+}
+- (UILabel *)textLabel {
+  return _textLabel;
+}
+- (UILabel *)detailTextLabel {
+  return _detailTextLabel;
+}
+- (UIImageView *)imageView {
+  return _imageView;
+}
+- (UIView *)accessoryView {
+  return _accessoryView;
+}
+- (void)setAccessoryView:(UIView *)view {
+  if (view == _accessoryView) return;
+  [_accessoryView removeFromSuperview];
+  [_accessoryView release];
+  _accessoryView = [view retain];
+  if (view) [self addSubview:view];
+  [self setNeedsLayout];
+}
+- (UITableViewCellAccessoryType)accessoryType {
+  return _accessoryType;
+}
+- (void)setAccessoryType:(UITableViewCellAccessoryType)type {
+  _accessoryType = type;
+  [self setNeedsLayout];
+}
+- (UIView *)backgroundView {
+  return _backgroundView;
+}
+- (void)setBackgroundView:(UIView *)view {
+  if (view == _backgroundView) return;
+  [_backgroundView removeFromSuperview];
+  [_backgroundView release];
+  _backgroundView = [view retain];
+  if (view) [self insertSubview:view atIndex:0];
+  [self setNeedsLayout];
+}
+- (UIView *)selectedBackgroundView {
+  return _selectedBackgroundView;
+}
+- (void)setSelectedBackgroundView:(UIView *)view {
+  [view retain];
+  [_selectedBackgroundView release];
+  _selectedBackgroundView = view;
+}
+- (UIColor *)separatorColor {
+  return _separatorColor;
+}
+- (void)setSeparatorColor:(UIColor *)color {
+  [color retain];
+  [_separatorColor release];
+  _separatorColor = color;
+  [self setNeedsLayout];
+}
+- (BOOL)isSelected {
+  return _selected;
+}
+- (void)setSelected:(BOOL)selected {
+  [self setSelected:selected animated:NO];
+}
+- (void)setSelected:(BOOL)selected animated:(BOOL)animated {
+  _selected = selected;
+}
+- (BOOL)isHighlighted {
+  return _highlighted;
+}
+- (void)setHighlighted:(BOOL)highlighted {
+  [self setHighlighted:highlighted animated:NO];
+}
+- (void)setHighlighted:(BOOL)highlighted animated:(BOOL)animated {
+  _highlighted = highlighted;
+}
+- (BOOL)isEditing {
+  return _editing;
+}
+- (void)setEditing:(BOOL)editing {
+  [self setEditing:editing animated:NO];
+}
+- (void)setEditing:(BOOL)editing animated:(BOOL)animated {
+  _editing = editing;
+  [self setNeedsLayout];
+}
+- (void)prepareForReuse {
+}
+- (UITableView *)_simTableView {
+  UIView *v = self.superview;
+  while (v && ![v isKindOfClass:[UITableView class]]) v = v.superview;
+  return (UITableView *)v;
+}
+- (void)layoutSubviews {
+  [super layoutSubviews];
+  CGRect b = self.bounds;
+  CGFloat w = b.size.width, h = b.size.height, margin = 15;
+  UIView *accessory = _editing && _editingAccessoryView ? _editingAccessoryView : _accessoryView;
+  CGFloat accessoryWidth = 0;
+  if (accessory) {
+    CGSize a = accessory.frame.size;
+    accessoryWidth = a.width + margin;
+    accessory.frame = CGRectMake(w - margin - a.width, floor((h - a.height) / 2), a.width, a.height);
+  } else if (_accessoryType != UITableViewCellAccessoryNone) {
+    accessoryWidth = 33;
+  }
+  CGFloat indent = _indentationLevel * _indentationWidth + (_editing ? 38 : 0);
+  _contentView.frame = CGRectMake(indent, 0, w - accessoryWidth - indent, h);
+  _backgroundView.frame = b;
+  CGFloat cw = _contentView.bounds.size.width;
+  CGFloat x = margin;
+  UIImage *image = _imageView.image;
+  if (image) {
+    CGSize s = image.size;
+    if (s.height > h) s = CGSizeMake(s.width * h / s.height, h);
+    _imageView.frame = CGRectMake(margin, floor((h - s.height) / 2), s.width, s.height);
+    x = margin + s.width + margin;
+  } else {
+    _imageView.frame = CGRectZero;
+  }
+  CGFloat available = fmax(cw - x - margin, 0);
+  CGSize t = [_textLabel sizeThatFits:CGSizeMake(available, h)];
+  CGSize d = _detailTextLabel ? [_detailTextLabel sizeThatFits:CGSizeMake(available, h)] : CGSizeZero;
+  switch (_style) {
+    case UITableViewCellStyleDefault:
+      _textLabel.frame = CGRectMake(x, 0, available, h);
+      break;
+    case UITableViewCellStyleValue1: {
+      CGFloat dw = fmin(d.width, available);
+      _detailTextLabel.frame = CGRectMake(cw - margin - dw, 0, dw, h);
+      _textLabel.frame = CGRectMake(x, 0, fmax(available - dw - 8, 0), h);
+      break;
+    }
+    case UITableViewCellStyleValue2:
+      _textLabel.frame = CGRectMake(x, 0, 67, h);
+      _detailTextLabel.frame = CGRectMake(x + 73, 0, fmax(available - 73, 0), h);
+      break;
+    case UITableViewCellStyleSubtitle: {
+      CGFloat total = t.height + d.height, y = floor((h - total) / 2);
+      _textLabel.frame = CGRectMake(x, y, available, t.height);
+      _detailTextLabel.frame = CGRectMake(x, y + t.height, available, d.height);
+      break;
+    }
+  }
+  UITableView *table = [self _simTableView];
+  UIColor *separator = _separatorColor ? _separatorColor : table.separatorColor;
+  if (!separator) separator = [UIColor separatorColor];
+  CGFloat line = 1.0 / [UIScreen mainScreen].scale;
+  _separatorView.backgroundColor = separator;
+  _separatorView.frame = CGRectMake(_separatorInset.left, h - line, fmax(w - _separatorInset.left - _separatorInset.right, 0), line);
+  _separatorView.hidden = table && table.separatorStyle == UITableViewCellSeparatorStyleNone;
+  [self bringSubviewToFront:_separatorView];
+}
+- (void)touchesEnded:(NSSet *)touches withEvent:(UIEvent *)event {
+  UITableView *table = [self _simTableView];
+  NSIndexPath *path = [table indexPathForCell:self];
+  if (path)
+    SimTableViewSelectRow(table, path);
+  else
+    [super touchesEnded:touches withEvent:event];
+}
+@end
+
+@implementation UITableView
+@synthesize style = _style;
+@synthesize dataSource = _dataSource;
+@dynamic delegate;
+@synthesize estimatedRowHeight = _estimatedRowHeight;
+@synthesize separatorStyle = _separatorStyle;
+@synthesize separatorInset = _separatorInset;
+@synthesize allowsSelection = _allowsSelection;
+@synthesize allowsSelectionDuringEditing = _allowsSelectionDuringEditing;
+@synthesize allowsMultipleSelection = _allowsMultipleSelection;
+- (instancetype)initWithFrame:(CGRect)frame {
+  return [self initWithFrame:frame style:UITableViewStylePlain];
+}
+- (instancetype)initWithFrame:(CGRect)frame style:(UITableViewStyle)style {
+  if ((self = [super initWithFrame:frame])) {
+    _style = style;
+    _rowHeight = UITableViewAutomaticDimension;
+    _sectionHeaderHeight = UITableViewAutomaticDimension;
+    _sectionFooterHeight = UITableViewAutomaticDimension;
+    _separatorStyle = UITableViewCellSeparatorStyleSingleLine;
+    _separatorInset = UIEdgeInsetsMake(0, 15, 0, 0);
+    _allowsSelection = YES;
+    _visibleCells = [[NSMutableDictionary alloc] init];
+    _reusableCells = [[NSMutableDictionary alloc] init];
+    _registeredClasses = [[NSMutableDictionary alloc] init];
+    self.alwaysBounceVertical = YES;
+    self.backgroundColor = style == UITableViewStylePlain ? [UIColor systemBackgroundColor]
+                                                          : [UIColor systemGroupedBackgroundColor];
+  }
+  return self;
+}
+- (void)dealloc {
+  [_separatorColor release];
+  [_tableHeaderView release];
+  [_tableFooterView release];
+  [_backgroundView release];
+  [_visibleCells release];
+  [_reusableCells release];
+  [_registeredClasses release];
+  [_selectedIndexPath release];
+  [super dealloc];
+}
+- (CGFloat)rowHeight {
+  return _rowHeight;
+}
+- (void)setRowHeight:(CGFloat)h {
+  _rowHeight = h;
+}
+- (CGFloat)sectionHeaderHeight {
+  return _sectionHeaderHeight;
+}
+- (void)setSectionHeaderHeight:(CGFloat)h {
+  _sectionHeaderHeight = h;
+}
+- (CGFloat)sectionFooterHeight {
+  return _sectionFooterHeight;
+}
+- (void)setSectionFooterHeight:(CGFloat)h {
+  _sectionFooterHeight = h;
+}
+- (UIColor *)separatorColor {
+  return _separatorColor;
+}
+- (void)setSeparatorColor:(UIColor *)color {
+  [color retain];
+  [_separatorColor release];
+  _separatorColor = color;
+}
+- (UIView *)tableHeaderView {
+  return _tableHeaderView;
+}
+- (void)setTableHeaderView:(UIView *)view {
+  if (view == _tableHeaderView) return;
+  [_tableHeaderView removeFromSuperview];
+  [_tableHeaderView release];
+  _tableHeaderView = [view retain];
+  if (view) {
+    CGRect f = view.frame;
+    view.frame = CGRectMake(0, 0, self.bounds.size.width, f.size.height);
+    [self addSubview:view];
+  }
+}
+- (UIView *)tableFooterView {
+  return _tableFooterView;
+}
+- (void)setTableFooterView:(UIView *)view {
+  if (view == _tableFooterView) return;
+  [_tableFooterView removeFromSuperview];
+  [_tableFooterView release];
+  _tableFooterView = [view retain];
+  if (view) [self addSubview:view];
+}
+- (UIView *)backgroundView {
+  return _backgroundView;
+}
+- (void)setBackgroundView:(UIView *)view {
+  [view retain];
+  [_backgroundView release];
+  _backgroundView = view;
+}
+- (BOOL)isEditing {
+  return _editing;
+}
+- (void)setEditing:(BOOL)editing {
+  [self setEditing:editing animated:NO];
+}
+- (void)setEditing:(BOOL)editing animated:(BOOL)animated {
+  _editing = editing;
+  for (UITableViewCell *cell in [_visibleCells allValues]) [cell setEditing:editing animated:animated];
+}
+
+// Structure.
+
+- (NSInteger)numberOfSections {
+  if ([_dataSource respondsToSelector:@selector(numberOfSectionsInTableView:)])
+    return [_dataSource numberOfSectionsInTableView:self];
+  return _dataSource ? 1 : 0;
+}
+- (NSInteger)numberOfRowsInSection:(NSInteger)section {
+  if (section < 0 || section >= self.numberOfSections) return 0;
+  return [_dataSource tableView:self numberOfRowsInSection:section];
+}
+- (BOOL)_simValidIndexPath:(NSIndexPath *)path {
+  return path && path.section >= 0 && path.section < self.numberOfSections && path.row >= 0 &&
+         path.row < [self numberOfRowsInSection:path.section];
+}
+- (CGFloat)_simHeightForRow:(NSIndexPath *)path {
+  id<UITableViewDelegate> d = self.delegate;
+  CGFloat h = [d respondsToSelector:@selector(tableView:heightForRowAtIndexPath:)] ? [d tableView:self heightForRowAtIndexPath:path]
+                                                                                   : _rowHeight;
+  return h < 0 ? 44 : h;
+}
+- (CGFloat)_simHeightForHeader:(NSInteger)section {
+  id<UITableViewDelegate> d = self.delegate;
+  if ([d respondsToSelector:@selector(tableView:heightForHeaderInSection:)]) {
+    CGFloat h = [d tableView:self heightForHeaderInSection:section];
+    if (h >= 0) return h;
+  }
+  if (_sectionHeaderHeight >= 0) return _sectionHeaderHeight;
+  BOOL titled = [_dataSource respondsToSelector:@selector(tableView:titleForHeaderInSection:)] &&
+                [_dataSource tableView:self titleForHeaderInSection:section].length > 0;
+  if (_style == UITableViewStylePlain) return titled ? 28 : 0;
+  return titled ? 55.5 : 35;
+}
+- (CGFloat)_simHeightForFooter:(NSInteger)section {
+  id<UITableViewDelegate> d = self.delegate;
+  if ([d respondsToSelector:@selector(tableView:heightForFooterInSection:)]) {
+    CGFloat h = [d tableView:self heightForFooterInSection:section];
+    if (h >= 0) return h;
+  }
+  if (_sectionFooterHeight >= 0) return _sectionFooterHeight;
+  NSString *title = [_dataSource respondsToSelector:@selector(tableView:titleForFooterInSection:)]
+                        ? [_dataSource tableView:self titleForFooterInSection:section]
+                        : nil;
+  if (!title.length) return _style == UITableViewStylePlain ? 0 : 5;
+  CGSize s = SimUIKitTextSize(title, [UIFont systemFontOfSize:13], self.bounds.size.width - 30, 0);
+  return s.height + 17;
+}
+- (CGRect)rectForSection:(NSInteger)section {
+  CGFloat y = _tableHeaderView ? _tableHeaderView.frame.size.height : 0;
+  NSInteger n = self.numberOfSections;
+  for (NSInteger s = 0; s < n; ++s) {
+    CGFloat h = [self _simHeightForHeader:s] + [self _simHeightForFooter:s];
+    NSInteger rows = [self numberOfRowsInSection:s];
+    for (NSInteger r = 0; r < rows; ++r) h += [self _simHeightForRow:[NSIndexPath indexPathForRow:r inSection:s]];
+    if (s == section) return CGRectMake(0, y, self.bounds.size.width, h);
+    y += h;
+  }
+  return CGRectZero;
+}
+- (CGRect)rectForRowAtIndexPath:(NSIndexPath *)path {
+  if (![self _simValidIndexPath:path]) return CGRectZero;
+  CGRect section = [self rectForSection:path.section];
+  CGFloat y = section.origin.y + [self _simHeightForHeader:path.section];
+  for (NSInteger r = 0; r < path.row; ++r) y += [self _simHeightForRow:[NSIndexPath indexPathForRow:r inSection:path.section]];
+  return CGRectMake(0, y, self.bounds.size.width, [self _simHeightForRow:path]);
+}
+- (NSIndexPath *)indexPathForRowAtPoint:(CGPoint)point {
+  NSInteger n = self.numberOfSections;
+  for (NSInteger s = 0; s < n; ++s) {
+    NSInteger rows = [self numberOfRowsInSection:s];
+    for (NSInteger r = 0; r < rows; ++r) {
+      NSIndexPath *p = [NSIndexPath indexPathForRow:r inSection:s];
+      if (CGRectContainsPoint([self rectForRowAtIndexPath:p], point)) return p;
+    }
+  }
+  return nil;
+}
+
+// Cells.
+
+- (void)_simDropVisibleCells {
+  for (UITableViewCell *cell in [_visibleCells allValues]) {
+    if (cell.superview == self) [cell removeFromSuperview];
+    NSString *rid = cell.reuseIdentifier;
+    if (rid) {
+      NSMutableArray *pool = [_reusableCells objectForKey:rid];
+      if (!pool) {
+        pool = [NSMutableArray array];
+        [_reusableCells setObject:pool forKey:rid];
+      }
+      if ([pool indexOfObjectIdenticalTo:cell] == NSNotFound) [pool addObject:cell];
+    }
+  }
+  [_visibleCells removeAllObjects];
+}
+- (void)reloadData {
+  [self _simDropVisibleCells];
+  [_selectedIndexPath release];
+  _selectedIndexPath = nil;
+  CGRect last = [self rectForSection:self.numberOfSections - 1];
+  self.contentSize = CGSizeMake(self.bounds.size.width, CGRectGetMaxY(last) + (_tableFooterView ? _tableFooterView.frame.size.height : 0));
+}
+- (void)reloadSections:(NSIndexSet *)sections withRowAnimation:(UITableViewRowAnimation)animation {
+  [self reloadData];
+}
+- (void)reloadRowsAtIndexPaths:(NSArray *)paths withRowAnimation:(UITableViewRowAnimation)animation {
+  for (NSIndexPath *p in paths) {
+    UITableViewCell *cell = [_visibleCells objectForKey:p];
+    if (!cell) continue;
+    if (cell.superview == self) [cell removeFromSuperview];
+    [_visibleCells removeObjectForKey:p];
+  }
+}
+- (void)insertSections:(NSIndexSet *)s withRowAnimation:(UITableViewRowAnimation)a {
+  [self reloadData];
+}
+- (void)deleteSections:(NSIndexSet *)s withRowAnimation:(UITableViewRowAnimation)a {
+  [self reloadData];
+}
+- (void)insertRowsAtIndexPaths:(NSArray *)p withRowAnimation:(UITableViewRowAnimation)a {
+  [self reloadData];
+}
+- (void)deleteRowsAtIndexPaths:(NSArray *)p withRowAnimation:(UITableViewRowAnimation)a {
+  [self reloadData];
+}
+- (void)beginUpdates {
+  ++_updateDepth;
+}
+- (void)endUpdates {
+  if (_updateDepth > 0) --_updateDepth;
+}
+- (UITableViewCell *)cellForRowAtIndexPath:(NSIndexPath *)path {
+  if (![self _simValidIndexPath:path]) return nil;
+  NSIndexPath *key = [NSIndexPath indexPathForRow:path.row inSection:path.section];
+  UITableViewCell *cell = [_visibleCells objectForKey:key];
+  if (cell) return cell;
+  cell = [_dataSource tableView:self cellForRowAtIndexPath:key];
+  if (!cell) return nil;
+  // A cell shown for another row moves here.
+  for (NSIndexPath *other in [_visibleCells allKeysForObject:cell]) [_visibleCells removeObjectForKey:other];
+  for (NSString *rid in _reusableCells) [[_reusableCells objectForKey:rid] removeObjectIdenticalTo:cell];
+  [_visibleCells setObject:cell forKey:key];
+  cell.frame = [self rectForRowAtIndexPath:key];
+  if (cell.superview != self) [self addSubview:cell];
+  if (_editing != cell.editing) [cell setEditing:_editing animated:NO];
+  id<UITableViewDelegate> d = self.delegate;
+  if ([d respondsToSelector:@selector(tableView:willDisplayCell:forRowAtIndexPath:)])
+    [d tableView:self willDisplayCell:cell forRowAtIndexPath:key];
+  [cell layoutIfNeeded];
+  return cell;
+}
+- (NSArray *)visibleCells {
+  NSMutableArray *out = [NSMutableArray array];
+  for (NSIndexPath *p in self.indexPathsForVisibleRows) [out addObject:[_visibleCells objectForKey:p]];
+  return out;
+}
+- (NSArray *)indexPathsForVisibleRows {
+  return [[_visibleCells allKeys] sortedArrayUsingSelector:@selector(compare:)];
+}
+- (NSIndexPath *)indexPathForCell:(UITableViewCell *)cell {
+  NSArray *keys = [_visibleCells allKeysForObject:cell];
+  return keys.count ? [keys objectAtIndex:0] : nil;
+}
+- (UIView *)headerViewForSection:(NSInteger)section {
+  id<UITableViewDelegate> d = self.delegate;
+  return [d respondsToSelector:@selector(tableView:viewForHeaderInSection:)] ? [d tableView:self viewForHeaderInSection:section] : nil;
+}
+- (UIView *)footerViewForSection:(NSInteger)section {
+  id<UITableViewDelegate> d = self.delegate;
+  return [d respondsToSelector:@selector(tableView:viewForFooterInSection:)] ? [d tableView:self viewForFooterInSection:section] : nil;
+}
+- (void)scrollToRowAtIndexPath:(NSIndexPath *)path atScrollPosition:(UITableViewScrollPosition)pos animated:(BOOL)animated {
+}
+- (NSIndexPath *)indexPathForSelectedRow {
+  return _selectedIndexPath;
+}
+- (void)selectRowAtIndexPath:(NSIndexPath *)path animated:(BOOL)animated scrollPosition:(UITableViewScrollPosition)pos {
+  if (_selectedIndexPath) [[_visibleCells objectForKey:_selectedIndexPath] setSelected:NO animated:animated];
+  [path retain];
+  [_selectedIndexPath release];
+  _selectedIndexPath = path;
+  if (path) [[_visibleCells objectForKey:path] setSelected:YES animated:animated];
+}
+- (void)deselectRowAtIndexPath:(NSIndexPath *)path animated:(BOOL)animated {
+  [[_visibleCells objectForKey:path] setSelected:NO animated:animated];
+  if ([_selectedIndexPath isEqual:path]) {
+    [_selectedIndexPath release];
+    _selectedIndexPath = nil;
+  }
+}
+- (UITableViewCell *)dequeueReusableCellWithIdentifier:(NSString *)identifier {
+  NSMutableArray *pool = identifier ? [_reusableCells objectForKey:identifier] : nil;
+  if (pool.count) {
+    UITableViewCell *cell = [[[pool lastObject] retain] autorelease];
+    [pool removeLastObject];
+    [cell prepareForReuse];
+    return cell;
+  }
+  return nil;
+}
+- (UITableViewCell *)dequeueReusableCellWithIdentifier:(NSString *)identifier forIndexPath:(NSIndexPath *)path {
+  UITableViewCell *cell = [self dequeueReusableCellWithIdentifier:identifier];
+  if (cell) return cell;
+  Class cls = [_registeredClasses objectForKey:identifier];
+  if (!cls) cls = [UITableViewCell class];
+  return [[[cls alloc] initWithStyle:UITableViewCellStyleDefault reuseIdentifier:identifier] autorelease];
+}
+- (void)registerClass:(Class)cellClass forCellReuseIdentifier:(NSString *)identifier {
+  if (!identifier) return;
+  if (cellClass)
+    [_registeredClasses setObject:cellClass forKey:identifier];
+  else
+    [_registeredClasses removeObjectForKey:identifier];
+}
+- (void)layoutSubviews {
+  [super layoutSubviews];
+  CGFloat w = self.bounds.size.width;
+  if (_tableHeaderView) {
+    CGRect f = _tableHeaderView.frame;
+    _tableHeaderView.frame = CGRectMake(0, 0, w, f.size.height);
+  }
+  for (NSIndexPath *p in [_visibleCells allKeys]) {
+    UITableViewCell *cell = [_visibleCells objectForKey:p];
+    cell.frame = [self rectForRowAtIndexPath:p];
+  }
+}
+@end
+
+BOOL SimTableViewSelectRow(UITableView *table, NSIndexPath *path) {
+  if (!table || !path || [[UIApplication sharedApplication] isIgnoringInteractionEvents]) return NO;
+  if (table.editing ? !table.allowsSelectionDuringEditing : !table.allowsSelection) return NO;
+  if (path.section < 0 || path.section >= table.numberOfSections || path.row < 0 ||
+      path.row >= [table numberOfRowsInSection:path.section])
+    return NO;
+  id<UITableViewDelegate> d = table.delegate;
+  if ([d respondsToSelector:@selector(tableView:shouldHighlightRowAtIndexPath:)] &&
+      ![d tableView:table shouldHighlightRowAtIndexPath:path])
+    return NO;
+  if ([d respondsToSelector:@selector(tableView:willSelectRowAtIndexPath:)]) {
+    path = [d tableView:table willSelectRowAtIndexPath:path];
+    if (!path) return NO;
+  }
+  [table selectRowAtIndexPath:path animated:NO scrollPosition:UITableViewScrollPositionNone];
+  if ([d respondsToSelector:@selector(tableView:didSelectRowAtIndexPath:)]) [d tableView:table didSelectRowAtIndexPath:path];
+  return YES;
+}
+
+BOOL SimTableViewCommitEditing(UITableView *table, UITableViewCellEditingStyle style, NSIndexPath *path) {
+  if (!table || !path || [[UIApplication sharedApplication] isIgnoringInteractionEvents]) return NO;
+  id<UITableViewDataSource> ds = table.dataSource;
+  if ([ds respondsToSelector:@selector(tableView:canEditRowAtIndexPath:)] && ![ds tableView:table canEditRowAtIndexPath:path])
+    return NO;
+  if (![ds respondsToSelector:@selector(tableView:commitEditingStyle:forRowAtIndexPath:)]) return NO;
+  [ds tableView:table commitEditingStyle:style forRowAtIndexPath:path];
+  return YES;
+}

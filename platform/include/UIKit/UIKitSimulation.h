@@ -1,0 +1,71 @@
+/* Test and host hooks of the UIKit stand-in. Not part of the device's UIKit: product code
+   never includes this header. */
+#ifndef UIKIT_UIKITSIMULATION_H
+#define UIKIT_UIKITSIMULATION_H
+
+#import <UIKit/UIKit.h>
+
+/* Sound ids given to -[UIDevice _playSystemSound:], oldest first (NSNumber). */
+UIKIT_EXTERN NSArray *SimPlayedSystemSounds(void);
+/* URLs given to openURL: and openURL:options:completionHandler:, oldest first. */
+UIKIT_EXTERN NSArray *SimOpenedURLs(void);
+/* The application's interaction-event suspension count (0: touches are delivered). */
+UIKIT_EXTERN NSInteger SimIgnoringInteractionEventsCount(void);
+/* Every view animation asked for, oldest first: dictionaries with "duration", "delay"
+   (NSNumber, seconds) and "options" (NSNumber). */
+UIKIT_EXTERN NSArray *SimRecordedViewAnimations(void);
+/* Forgets the records above, zeroes the suspension count, clears the pasteboard and the first
+   responder, and drops the key window. Call between tests. */
+UIKIT_EXTERN void SimUIKitReset(void);
+
+/* Runs `block` on the main run loop `delay` seconds from now, after everything already due
+   at or before that moment (the timeline of animation and transition completions). */
+UIKIT_EXTERN void SimUIKitSchedule(NSTimeInterval delay, void (^block)(void));
+/* Duration of an animated push, pop, presentation or dismissal. */
+UIKIT_EXTERN const NSTimeInterval SimTransitionDuration;
+
+/* A tap at `point` (in the view's coordinates): hit-tests from `view`, offers the touch to the
+   tap gesture recognizers of the hit view and its ancestors, and otherwise delivers
+   touchesBegan/touchesEnded to the hit view (controls then send their actions). Returns NO
+   when the application ignores interaction events or nothing was hit. */
+UIKIT_EXTERN BOOL SimTapView(UIView *view, CGPoint point);
+/* Sends a bar button item's action to its target (with the item as sender). */
+UIKIT_EXTERN BOOL SimTapBarButtonItem(UIBarButtonItem *item);
+/* Selects a row as a tap would: willSelect, then didSelect of the table's delegate. */
+UIKIT_EXTERN BOOL SimTableViewSelectRow(UITableView *tableView, NSIndexPath *indexPath);
+/* Commits an edit (e.g. a swipe-to-delete) through the table's data source. */
+UIKIT_EXTERN BOOL SimTableViewCommitEditing(UITableView *tableView, UITableViewCellEditingStyle style, NSIndexPath *indexPath);
+
+/* Simulation details of some classes. */
+@interface UIImage (Simulation)
+/* What the image shows: a file name, "appicon:<bundle id>", "drawn"... */
+- (NSString *)_simDescription;
+/* The drawing operations of an image made in an image context (nil otherwise). */
+- (NSArray *)_simDrawOperations;
+@end
+
+/* Private API of the device's UIKit that the stand-in implements. */
+@interface UIDevice (Private)
+- (void)_playSystemSound:(unsigned int)soundID;
+@end
+
+@interface UIImage (Private)
++ (UIImage *)_applicationIconImageForBundleIdentifier:(NSString *)bundleIdentifier format:(int)format scale:(CGFloat)scale;
++ (UIImage *)_applicationIconImageForBundleIdentifier:(NSString *)bundleIdentifier format:(int)format;
+- (UIImage *)_applicationIconImageForFormat:(int)format precomposed:(BOOL)precomposed;
+- (UIImage *)_applicationIconImageForFormat:(int)format precomposed:(BOOL)precomposed scale:(CGFloat)scale;
+@end
+
+@interface UIAlertAction (Private)
+@property(nonatomic, copy) void (^handler)(UIAlertAction *action);
+@end
+
+@interface UIAlertController (Private)
+- (void)_dismissAnimated:(BOOL)animated triggeringAction:(UIAlertAction *)action;
+@end
+
+@interface UITableViewCell (Private)
+@property(nonatomic, retain) UIColor *separatorColor;
+@end
+
+#endif
