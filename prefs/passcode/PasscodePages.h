@@ -1,0 +1,36 @@
+// Helpers shared by the passcode pages: their texts, the error sound and the
+// refresh of the visible settings pages after the passcode changed.
+#pragma once
+#import "core/PlatformAPI.h"
+#include "passcode/PasscodeFlow.hpp"
+
+#if TESSARIN_SIMULATED
+// Private members of the Settings app and UIKit that the device build
+// declares in its own private header.
+@interface UIApplication (TessarinPasscodeSettingsApp)
+- (UINavigationController *)rootController;
+@end
+
+@interface UINavigationController (TessarinPasscodeSettingsApp)
+- (PSListController *)rootListController;
+@end
+
+@interface UIDevice (TessarinPasscodeSound)
+- (void)_playSystemSound:(unsigned int)soundID;
+@end
+#endif
+
+// The text in its table (the bundle's own strings or the Accessibility
+// bundle's Guided Access table), its default when missing; "" for kNone.
+NSString *passcodePageText(const tessarin::passcode::Text &text);
+
+// The system sound of a wrong entry.
+void playPasscodeErrorSound(void);
+
+// The Settings app's root navigation controller (nil outside Settings).
+UINavigationController *settingsRootController(void);
+
+// On iOS 8 and later: every page of the navigation next to the Settings root
+// list (its parent's children), except the root list itself, reloads its
+// rows after `delay` seconds.
+void scheduleSettingsPagesReload(NSTimeInterval delay);

@@ -1,0 +1,3 @@
+// The change page is declared beside the remove page.
+#pragma once
+#import "passcode/TessarinRemovePasscodeController.h"

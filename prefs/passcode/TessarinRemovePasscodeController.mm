@@ -1,0 +1,107 @@
+#import "passcode/TessarinRemovePasscodeController.h"
+#import "passcode/PasscodePages.h"
+#import "core/PreferenceStore.h"
+#include "passcode/ChangePasscodeFlow.hpp"
+
+using namespace tessarin::passcode;
+
+namespace {
+
+// The stored passcode, when it is a string (anything else never matches).
+NSString *storedPasscode(void) {
+  id value = prefsValueForKey(kPasscodeKey);
+  return [value isKindOfClass:[NSString class]] ? value : nil;
+}
+
+std::optional<std::string> optionalOf(NSString *stored) {
+  const char *bytes = [stored UTF8String];
+  if (bytes == nullptr) return std::nullopt;
+  return std::string(bytes);
+}
+
+std::string_view viewOf(NSString *entry) {
+  const char *bytes = [entry UTF8String];
+  return bytes != nullptr ? std::string_view(bytes) : std::string_view();
+}
+
+}  // namespace
+
+@implementation TessarinRemovePasscodeController
+
+@synthesize oldPass = _oldPass;
+
+- (void)dealloc {
+  [_oldPass release];
+  _oldPass = nil;
+  delete _removeFlow;
+  _removeFlow = nullptr;
+  [super dealloc];
+}
+
+- (void)loadView {
+  [super loadView];
+  self.pass1 = nil;
+  self.oldPass = storedPasscode();
+  delete _removeFlow;
+  _removeFlow = new RemovePasscodeFlow(optionalOf(_oldPass));
+  [self.label setText:passcodePageText(RemovePasscodeFlow::initialPrompt())];
+  [self setTitle:passcodePageText(RemovePasscodeFlow::title())];
+}
+
+- (void)passcodeField:(PSPasscodeField *)field enteredPasscode:(NSString *)passcode {
+  CGPoint centre = [[self view] center];
+  if (_removeFlow == nullptr) _removeFlow = new RemovePasscodeFlow(optionalOf(_oldPass));
+  Step step = _removeFlow->enter(viewOf(passcode));
+  [self carryOutStep:step centre:centre];
+}
+
+- (void)cancelAndCleanup {
+  if (_removeFlow != nullptr) _removeFlow->cancel();
+  [super cancelAndCleanup];
+}
+
+@end
+
+@implementation TessarinChangePasscodeController
+
+@synthesize oldPass = _oldPass;
+
+- (void)dealloc {
+  [_oldPass release];
+  _oldPass = nil;
+  delete _changeFlow;
+  _changeFlow = nullptr;
+  [super dealloc];
+}
+
+- (void)loadView {
+  [super loadView];
+  self.pass1 = nil;
+  self.oldPass = storedPasscode();
+  delete _changeFlow;
+  _changeFlow = new ChangePasscodeFlow(optionalOf(_oldPass));
+  [self.label setText:passcodePageText(ChangePasscodeFlow::initialPrompt())];
+  // The title goes to `item`, which nothing assigns: the page keeps the add
+  // page's title, as it always has.
+  [self.item setTitle:passcodePageText(text::kChangeTitle)];
+}
+
+- (void)passcodeField:(PSPasscodeField *)field enteredPasscode:(NSString *)passcode {
+  CGPoint centre = [[self view] center];
+  if (_changeFlow == nullptr) _changeFlow = new ChangePasscodeFlow(optionalOf(_oldPass));
+  Step step = _changeFlow->enter(viewOf(passcode));
+  // pass1 marks the verified old passcode, pass2 the first new entry.
+  ChangePasscodeFlow::State state = _changeFlow->state();
+  NSString *entry = [[passcode copy] autorelease];
+  if (state == ChangePasscodeFlow::State::New && self.pass1 == nil) self.pass1 = entry;
+  if (state == ChangePasscodeFlow::State::Confirm) self.pass2 = entry;
+  if (state == ChangePasscodeFlow::State::New) self.pass2 = nil;
+  [self carryOutStep:step centre:centre];
+}
+
+- (void)cancelAndCleanup {
+  if (_changeFlow != nullptr) _changeFlow->cancel();
+  [super cancelAndCleanup];
+}
+
+@end

@@ -1,0 +1,3 @@
+// The text page is declared beside the digit page.
+#pragma once
+#import "passcode/TessarinUserPasscodeController.h"

@@ -1,0 +1,212 @@
+#import "passcode/TessarinUserPasscodeController.h"
+#import "passcode/PasscodePages.h"
+#import "core/Hardware.h"
+#import "core/VersionFlags.h"
+#include "passcode/DevicePasscodeFlow.hpp"
+
+using namespace tessarin::passcode;
+
+// The root settings page, reached by name.
+@interface NSObject (TessarinRootPageLookup)
++ (id)sharedInstance;
+@end
+
+namespace {
+
+NSString *nameOf(std::string_view name) {
+  return [[[NSString alloc] initWithBytes:name.data() length:name.size() encoding:NSUTF8StringEncoding]
+      autorelease];
+}
+
+std::string_view viewOf(NSString *entry) {
+  const char *bytes = [entry UTF8String];
+  return bytes != nullptr ? std::string_view(bytes) : std::string_view();
+}
+
+CGRect cgRect(const Rect &r) { return CGRectMake(r.x, r.y, r.width, r.height); }
+
+// The device passcode's length from the passcode manager; 0 when unknown.
+long long devicePasscodeLength(void) {
+  Class managerClass = NSClassFromString(@"MCPasscodeManager");
+  MCPasscodeManager *manager = [managerClass sharedManager];
+  if (manager == nil) return 0;
+  NSDictionary *characteristics = nil;
+  if ([manager respondsToSelector:@selector(_privatePasscodeDictWithOutError:)]) {
+    NSDictionary *record = [manager _privatePasscodeDictWithOutError:NULL];
+    id outer = [record isKindOfClass:[NSDictionary class]] ? [record objectForKey:@"characteristics"] : nil;
+    id inner = [outer isKindOfClass:[NSDictionary class]] ? [outer objectForKey:@"characteristics"] : nil;
+    id first = [inner isKindOfClass:[NSDictionary class]] ? [inner objectForKey:@"1"] : nil;
+    characteristics = first != nil ? first : inner;
+  } else if ([manager respondsToSelector:@selector(_passcodeCharacteristics)]) {
+    characteristics = [manager _passcodeCharacteristics];
+  }
+  if (![characteristics isKindOfClass:[NSDictionary class]]) return 0;
+  id length = [characteristics objectForKey:@"length"];
+  return [length respondsToSelector:@selector(longLongValue)] ? [length longLongValue] : 0;
+}
+
+TokenAnswer tokenAnswer(id controller, SEL selector) {
+  if (![controller respondsToSelector:selector]) return TokenAnswer::NotAnswered;
+  return [controller performSelector:selector] != nil ? TokenAnswer::Present : TokenAnswer::Null;
+}
+
+}  // namespace
+
+@implementation TessarinUserPasscodeController
+
+@synthesize oldPass = _oldPass;
+@synthesize errorCount = _errorCount;
+
+- (void)dealloc {
+  [_oldPass release];
+  _oldPass = nil;
+  delete _deviceFlow;
+  _deviceFlow = nullptr;
+  [super dealloc];
+}
+
+- (DevicePage)devicePage {
+  return DevicePage::Numeric;
+}
+
+- (void)startFlow {
+  _errorCount = 0;
+  delete _deviceFlow;
+  _deviceFlow = new DevicePasscodeFlow([self devicePage]);
+}
+
+- (void)loadView {
+  [self startFlow];
+  [super loadView];
+
+  if (devicePasscodeLength() == 6 && [self.passcodeField respondsToSelector:@selector(setNumberOfEntryFields:)])
+    [self.passcodeField setNumberOfEntryFields:kSixDigitEntryFields];
+  UIView *field = self.passcodeField;
+  CGPoint centre = [field center];
+  centre.x = [[self view] center].x;
+  [field setCenter:centre];
+
+  [self.label setText:passcodePageText(DevicePasscodeFlow::initialPrompt())];
+  [self setTitle:passcodePageText(_deviceFlow->title())];
+}
+
+// The system page for the entry, unlocked when the entry is the device
+// passcode; nil when the device has none of the system pages. +1.
+- (id)newSystemControllerForPasscode:(NSString *)passcode {
+  id controller = nil;
+  systemControllerClass(hasPearl(), [&controller](std::string_view name) {
+    Class cls = NSClassFromString(nameOf(name));
+    if (cls == Nil) return false;
+    controller = [[cls alloc] initForContentSize:CGSizeZero];
+    return controller != nil;
+  });
+  if (controller == nil) return nil;
+  PSSpecifier *specifier = [PSSpecifier preferenceSpecifierNamed:nameOf(kSystemSpecifierName)
+                                                          target:nil
+                                                             set:NULL
+                                                             get:NULL
+                                                          detail:Nil
+                                                            cell:(PSCellType)kSystemSpecifierCellType
+                                                            edit:Nil];
+  [specifier setProperty:passcode forKey:nameOf(kSystemSpecifierPasscodeProperty)];
+  [controller setSpecifier:specifier];
+  return controller;
+}
+
+- (void)passcodeField:(PSPasscodeField *)field enteredPasscode:(NSString *)passcode {
+  CGPoint centre = [[self view] center];
+  if (_deviceFlow == nullptr) [self startFlow];
+  id controller = nil;
+  Step step = _deviceFlow->enter(viewOf(passcode), [&](std::string_view) {
+    controller = [self newSystemControllerForPasscode:passcode];
+    // Without a system page there is nothing to check with: refuse.
+    if (controller == nil) return false;
+    return holdsAuthorisation(tokenAnswer(controller, @selector(_authorizationToken)),
+                              tokenAnswer(controller, @selector(authorizationToken)));
+  });
+  _errorCount = _deviceFlow->errorCount();
+
+  if (step.success) {
+    [[UIApplication sharedApplication] beginIgnoringInteractionEvents];
+    [self performSelector:@selector(dismissSelf) withObject:nil afterDelay:kSuccessDismissDelay];
+    [self performSelector:@selector(pushMesa:) withObject:controller afterDelay:kSuccessPushDelay];
+  } else {
+    [self carryOutStep:step centre:centre];
+  }
+  [controller release];
+}
+
+- (void)pushMesa:(UIViewController *)controller {
+  if (!systemVersion.iOS8) {
+    [settingsRootController() pushViewController:controller animated:YES];
+    return;
+  }
+  Class rootPage = NSClassFromString(@"TessarinPrefsListController");
+  id shared = [rootPage respondsToSelector:@selector(sharedInstance)] ? [rootPage sharedInstance] : nil;
+  [shared pushController:controller animate:YES];
+}
+
+- (void)cancelAndCleanup {
+  if (_deviceFlow != nullptr) _deviceFlow->cancel();
+  [super cancelAndCleanup];
+}
+
+@end
+
+@implementation TessarinUserComplexPasscodeController
+
+- (DevicePage)devicePage {
+  return DevicePage::Complex;
+}
+
+- (void)loadView {
+  [self startFlow];
+  NSAutoreleasePool *pool = [[NSAutoreleasePool alloc] init];
+  CGFloat width = [[UIScreen mainScreen] bounds].size.width;
+
+  UIView *root = [[[UIView alloc] initWithFrame:cgRect(rootViewFrame(width))] autorelease];
+  [root setAutoresizingMask:kFlexibleSizeMask];
+  [root setBackgroundColor:[UIColor colorWithRed:kComplexBackground.red / 255.0
+                                           green:kComplexBackground.green / 255.0
+                                            blue:kComplexBackground.blue / 255.0
+                                           alpha:1.0]];
+  if ([self respondsToSelector:@selector(setView:)]) [self setView:root];
+
+  UITextField *field = [[[UITextField alloc] initWithFrame:cgRect(complexFieldFrame(width))] autorelease];
+  [field setSecureTextEntry:YES];
+  [field setEnabled:YES];
+  [field setBackgroundColor:[UIColor whiteColor]];
+  [field setDelegate:self];
+  self.passcodeField = field;
+
+  UILabel *prompt = [[[UILabel alloc] initWithFrame:cgRect(complexPromptFrame(width))] autorelease];
+  [prompt setTextAlignment:NSTextAlignmentCenter];
+  [prompt setText:passcodePageText(DevicePasscodeFlow::initialPrompt())];
+  [prompt setFont:[UIFont systemFontOfSize:kLabelFontSize]];
+  self.label = prompt;
+
+  UILabel *warning = [[[UILabel alloc] initWithFrame:cgRect(complexWarningFrame(width))] autorelease];
+  [warning setTextAlignment:NSTextAlignmentCenter];
+  [warning setText:@""];
+  [warning setFont:[UIFont systemFontOfSize:kLabelFontSize]];
+  self.warnLabel = warning;
+
+  [root addSubview:field];
+  [root addSubview:prompt];
+  [root addSubview:warning];
+
+  [self setTitle:passcodePageText(_deviceFlow->title())];
+  UIBarButtonItem *cancel = [[[UIBarButtonItem alloc] initWithTitle:passcodePageText(text::kCancel)
+                                                              style:UIBarButtonItemStylePlain
+                                                             target:self
+                                                             action:@selector(cancelAndCleanup)] autorelease];
+  [[self navigationItem] setRightBarButtonItem:cancel animated:NO];
+  [pool release];
+}
+
+- (BOOL)textFieldShouldReturn:(UITextField *)textField {
+  [self passcodeField:(PSPasscodeField *)textField enteredPasscode:[textField text]];
+  return YES;
+}
+
+@end
