@@ -17,3 +17,9 @@ NSDictionary *SettingsHostPreferenceEntry(void);
 
 // Loads the entry's bundle as Settings does (its start-up code runs then); returns it.
 NSBundle *SettingsHostLoadPreferenceBundle(void);
+
+// Builds the Settings app around the loaded bundle: the app's root navigation controller
+// shows the Settings list ("PrefsListController") whose one row is the product's
+// PreferenceLoader entry (its label, and as detail page the entry's class or the bundle's
+// principal class). Returns NO when the app or the entry is missing.
+BOOL SettingsHostBuildSettingsApp(NSBundle *bundle);

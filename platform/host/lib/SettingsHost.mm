@@ -1,4 +1,5 @@
 #import "SettingsHost.h"
+#import "HostPrivateAPI.h"
 #include <Simulator/Simulator.h>
 #include <libroot.h>
 #include <limits.h>
@@ -59,4 +60,39 @@ NSBundle *SettingsHostLoadPreferenceBundle(void) {
   NSBundle *bundle = [NSBundle bundleWithPath:hostPath(bundleDevicePath)];
   if (![bundle load]) return nil;
   return bundle;
+}
+
+BOOL SettingsHostBuildSettingsApp(NSBundle *bundle) {
+  NSDictionary *entry = SettingsHostPreferenceEntry();
+  if (entry == nil) return NO;
+  NSString *label = [entry objectForKey:@"label"];
+  if (![label isKindOfClass:[NSString class]]) label = [entry objectForKey:@"bundle"];
+  if (![label isKindOfClass:[NSString class]]) return NO;
+  id detailName = [entry objectForKey:@"detail"];
+  Class detail = [detailName isKindOfClass:[NSString class]] ? NSClassFromString(detailName) : Nil;
+  if (detail == Nil) detail = [bundle principalClass];
+  if (detail == Nil) return NO;
+
+  // A fresh app: window, root navigation controller and the Settings list.
+  SimSettingsReset();
+  PSRootController *root = SimSettingsRootController();
+  if (root == nil || [root rootListController] == nil) return NO;
+
+  // The row PreferenceLoader adds to the Settings list for a bundle entry.
+  PSSpecifier *group = [PSSpecifier emptyGroupSpecifier];
+  PSSpecifier *row = [PSSpecifier preferenceSpecifierNamed:label
+                                                    target:[root rootListController]
+                                                       set:NULL
+                                                       get:NULL
+                                                    detail:detail
+                                                      cell:PSLinkCell
+                                                      edit:Nil];
+  [row setProperty:label forKey:@"id"];
+  for (NSString *key in @[ @"bundle", @"icon", @"isController" ]) {
+    id value = [entry objectForKey:key];
+    if (value != nil) [row setProperty:value forKey:key];
+  }
+  if (bundle != nil) [row setProperty:[bundle bundlePath] forKey:@"lazy-bundle"];
+  SimSettingsSetRootSpecifiers(@[ group, row ]);
+  return YES;
 }

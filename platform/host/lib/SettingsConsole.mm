@@ -1,0 +1,357 @@
+#import "SettingsConsole.h"
+#import "HostPrivateAPI.h"
+#import "SettingsScreen.h"
+#include <Simulator/Simulator.h>
+
+// Switch rows, by cell type number.
+static const long kSwitchCellType = 6;
+
+// Splits a command line into words; double quotes group words ("alert \"Set Passcode\"").
+static NSArray *commandWords(NSString *line) {
+  NSMutableArray *words = [NSMutableArray array];
+  NSMutableString *word = nil;
+  BOOL quoted = NO;
+  for (NSUInteger i = 0; i < [line length]; i++) {
+    unichar c = [line characterAtIndex:i];
+    if (c == '"') {
+      if (word == nil) word = [NSMutableString string];
+      quoted = !quoted;
+    } else if (!quoted && (c == ' ' || c == '\t' || c == '\r' || c == '\n')) {
+      if (word != nil) [words addObject:word];
+      word = nil;
+    } else {
+      if (word == nil) word = [NSMutableString string];
+      [word appendFormat:@"%C", c];
+    }
+  }
+  if (word != nil) [words addObject:word];
+  return words;
+}
+
+// A positive whole number, or 0.
+static NSUInteger positiveNumber(NSString *text) {
+  if ([text length] == 0 || [text length] > 6) return 0;
+  NSCharacterSet *digits = [NSCharacterSet decimalDigitCharacterSet];
+  for (NSUInteger i = 0; i < [text length]; i++) {
+    if (![digits characterIsMember:[text characterAtIndex:i]]) return 0;
+  }
+  return (NSUInteger)[text integerValue];
+}
+
+static void performOn(id target, SEL action, id argument) {
+  if (target == nil || action == NULL || ![target respondsToSelector:action]) return;
+  [target performSelector:action withObject:argument];
+}
+
+@implementation SettingsConsole
+@synthesize finished = _finished;
+@synthesize settleLimit = _settleLimit;
+
++ (NSString *)helpText {
+  return @"Commands:\n"
+          "  tap N              open a link row, press a button row, follow a footer link\n"
+          "  flip N             turn a switch row over\n"
+          "  switch N on|off    set a switch row\n"
+          "  alert N            trigger the alert's action N (or: alert \"Title\")\n"
+          "  type 1234          enter a passcode on a passcode page\n"
+          "  back               go back one page\n"
+          "  cancel             press the bar button of a modal page\n"
+          "  wait SECONDS       let the app run (animations, delayed work)\n"
+          "  show               print the screen again\n"
+          "  quit               leave\n";
+}
+
+- (instancetype)init {
+  self = [super init];
+  if (self != nil) _settleLimit = 3.0;
+  return self;
+}
+
+- (void)dealloc {
+  [_screen release];
+  [super dealloc];
+}
+
+- (SettingsScreen *)screen {
+  if (_screen == nil) [self render];
+  return _screen;
+}
+
+- (NSString *)render {
+  SettingsScreen *screen = [SettingsScreen currentScreen];
+  [_screen release];
+  _screen = [screen retain];
+  return [screen text];
+}
+
+- (void)settle {
+  NSRunLoop *loop = [NSRunLoop currentRunLoop];
+  NSDate *start = [NSDate date];
+  SimRunLoopRunFor(0.05);
+  while (-[start timeIntervalSinceNow] < _settleLimit) {
+    NSDate *next = [loop limitDateForMode:NSDefaultRunLoopMode];
+    if (next == nil || [next timeIntervalSinceNow] > 1.2) break;
+    SimRunLoopRunFor(0.05);
+  }
+  SimRunLoopRunFor(0.05);
+}
+
+#pragma mark - Commands
+
+- (BOOL)ignoringTouches {
+  return SimIgnoringInteractionEventsCount() > 0 || [[UIApplication sharedApplication] isIgnoringInteractionEvents];
+}
+
+- (SettingsScreenItem *)itemNumbered:(NSString *)text error:(NSString **)error {
+  NSUInteger number = positiveNumber(text);
+  NSArray *items = [[self screen] items];
+  if (number == 0 || number > [items count]) {
+    *error = [items count] == 0 ? @"There is nothing numbered on this screen."
+                                : [NSString stringWithFormat:@"Choose a number from 1 to %lu.", (unsigned long)[items count]];
+    return nil;
+  }
+  return [items objectAtIndex:number - 1];
+}
+
+- (NSString *)push:(Class)pageClass from:(UIViewController *)page specifier:(PSSpecifier *)specifier {
+  UINavigationController *navigation = [page navigationController];
+  if (navigation == nil) navigation = [[self screen] navigation];
+  if (navigation == nil) return @"There is no navigation controller to open the page in.";
+  UIViewController *next = [[pageClass alloc] init];
+  if (next == nil) return [NSString stringWithFormat:@"%@ could not be created.", NSStringFromClass(pageClass)];
+  if ([next isKindOfClass:[PSViewController class]]) {
+    PSViewController *settingsPage = (PSViewController *)next;
+    if ([page isKindOfClass:[PSViewController class]]) [settingsPage setRootController:[(PSViewController *)page rootController]];
+    [settingsPage setParentController:page];
+    [settingsPage setSpecifier:specifier];
+  }
+  [navigation pushViewController:next animated:YES];
+  [next release];
+  return nil;
+}
+
+- (NSString *)tap:(SettingsScreenItem *)item {
+  PSSpecifier *specifier = [item specifier];
+  UIViewController *page = [item controller];
+  if ([item footerLink]) {
+    NSString *actionName = [specifier propertyForKey:@"footerHyperlinkAction"];
+    if ([actionName isKindOfClass:[NSString class]]) {
+      id target = [specifier propertyForKey:@"footerHyperlinkTarget"];
+      if ([target isKindOfClass:[NSValue class]]) target = [(NSValue *)target nonretainedObjectValue];
+      if (target == nil) target = SettingsScreenRowTarget(specifier, page);
+      performOn(target, NSSelectorFromString(actionName), specifier);
+    } else {
+      performOn(SettingsScreenRowTarget(specifier, page), [specifier buttonAction], specifier);
+    }
+    return nil;
+  }
+  if (!SettingsScreenRowEnabled(specifier)) return @"That row is disabled.";
+  if ((long)[specifier cellType] == kSwitchCellType) return [self setSwitch:item to:nil];
+
+  id target = SettingsScreenRowTarget(specifier, page);
+  if ([specifier buttonAction] != NULL && ![target respondsToSelector:[specifier buttonAction]]) {
+    return [NSString stringWithFormat:@"The row's action %@ is not understood by its page.",
+                                      NSStringFromSelector([specifier buttonAction])];
+  }
+  BOOL opens = [specifier buttonAction] != NULL || [specifier controllerLoadAction] != NULL ||
+               [specifier detailControllerClass] != Nil;
+  if (!opens) return @"Tapping that row does nothing.";
+  if ([page isKindOfClass:[PSListController class]] &&
+      SimListControllerTapSpecifier((PSListController *)page, specifier)) {
+    return nil;
+  }
+  // Not a list page the simulation can tap: act as Settings does.
+  if ([specifier buttonAction] != NULL) {
+    performOn(target, [specifier buttonAction], specifier);
+    return nil;
+  }
+  if ([specifier controllerLoadAction] != NULL && [target respondsToSelector:[specifier controllerLoadAction]]) {
+    performOn(target, [specifier controllerLoadAction], specifier);
+    return nil;
+  }
+  return [self push:[specifier detailControllerClass] from:page specifier:specifier];
+}
+
+// value nil: turn over.
+- (NSString *)setSwitch:(SettingsScreenItem *)item to:(NSNumber *)value {
+  PSSpecifier *specifier = [item specifier];
+  UIViewController *page = [item controller];
+  if ([item footerLink] || (long)[specifier cellType] != kSwitchCellType) return @"That row is not a switch.";
+  if (!SettingsScreenRowEnabled(specifier)) return @"That row is disabled.";
+  if (value == nil) {
+    id current = SettingsScreenRowValue(specifier, page);
+    BOOL on = [current respondsToSelector:@selector(boolValue)] && [current boolValue];
+    value = @(!on);
+  }
+  id target = SettingsScreenRowTarget(specifier, page);
+  SEL setter = SettingsScreenRowSelector(specifier, "setter");
+  @try {
+    if (setter != NULL && [target respondsToSelector:setter]) {
+      [target performSelector:setter withObject:value withObject:specifier];
+    } else if ([page respondsToSelector:@selector(setPreferenceValue:specifier:)]) {
+      [(id)page setPreferenceValue:value specifier:specifier];
+    } else {
+      return @"The switch has nowhere to store its value.";
+    }
+  } @catch (NSException *exception) {
+    return [NSString stringWithFormat:@"The switch raised %@: %@", [exception name], [exception reason]];
+  }
+  return nil;
+}
+
+- (NSString *)triggerAlert:(NSArray *)words {
+  UIAlertController *alert = [[self screen] alert];
+  if (alert == nil) return @"No alert is showing.";
+  if ([words count] < 2) return @"Say which action: alert N, or alert \"Title\".";
+  NSArray *actions = [alert actions];
+  UIAlertAction *chosen = nil;
+  NSUInteger number = [words count] == 2 ? positiveNumber([words objectAtIndex:1]) : 0;
+  if (number > 0) {
+    if (number > [actions count]) {
+      return [NSString stringWithFormat:@"The alert has %lu actions.", (unsigned long)[actions count]];
+    }
+    chosen = [actions objectAtIndex:number - 1];
+  } else {
+    NSString *title = [[words subarrayWithRange:NSMakeRange(1, [words count] - 1)] componentsJoinedByString:@" "];
+    for (UIAlertAction *action in actions) {
+      if ([[action title] caseInsensitiveCompare:title] == NSOrderedSame) chosen = action;
+    }
+    if (chosen == nil) return [NSString stringWithFormat:@"The alert has no action \"%@\".", title];
+  }
+  if (![alert respondsToSelector:@selector(_dismissAnimated:triggeringAction:)]) {
+    return @"This UIKit cannot trigger alert actions.";
+  }
+  [alert _dismissAnimated:YES triggeringAction:chosen];
+  return nil;
+}
+
+- (NSString *)type:(NSString *)digits {
+  UIView *field = [[self screen] passcodeField];
+  if (field == nil) return @"This page has no passcode entry.";
+  NSCharacterSet *decimal = [NSCharacterSet decimalDigitCharacterSet];
+  for (NSUInteger i = 0; i < [digits length]; i++) {
+    if (![decimal characterIsMember:[digits characterAtIndex:i]]) return @"Type digits only, e.g. type 1234.";
+  }
+  NSUInteger boxes = [(PSPasscodeField *)field numberOfEntryFields];
+  if (boxes == 0) boxes = 4;
+  if ([digits length] % boxes != 0) {
+    return [NSString stringWithFormat:@"The passcode has %lu digits.", (unsigned long)boxes];
+  }
+  // Each full entry goes in as the field reports it: the whole passcode at once to its delegate.
+  for (NSUInteger start = 0; start < [digits length]; start += boxes) {
+    NSString *entry = [digits substringWithRange:NSMakeRange(start, boxes)];
+    if (start > 0) {
+      [self settle];
+      [self render];
+      field = [[self screen] passcodeField];
+      if (field == nil) return @"The passcode page closed before the whole entry was typed.";
+    }
+    SimPasscodeFieldType((PSPasscodeField *)field, entry);
+  }
+  return nil;
+}
+
+- (NSString *)back {
+  SettingsScreen *screen = [self screen];
+  if ([screen alert] != nil) return @"Answer the alert first (alert N).";
+  UINavigationController *navigation = [screen navigation];
+  if (navigation == nil) return @"There is no page to go back from.";
+  if ([[navigation viewControllers] count] <= 1) {
+    return [screen modal] != nil ? @"This is a modal page: use cancel." : @"This is the Settings list already.";
+  }
+  [navigation popViewControllerAnimated:YES];
+  return nil;
+}
+
+- (NSString *)cancel {
+  SettingsScreen *screen = [self screen];
+  if ([screen alert] != nil) return @"Answer the alert first (alert N).";
+  UINavigationItem *navigationItem = [[screen page] navigationItem];
+  UIBarButtonItem *button = [navigationItem rightBarButtonItem];
+  if ([button action] == NULL) button = [navigationItem leftBarButtonItem];
+  if ([button action] == NULL) return @"This page has no bar button.";
+  return SimTapBarButtonItem(button) ? nil : @"The bar button did not respond.";
+}
+
+- (BOOL)openEntryNamed:(NSString *)label {
+  [self render];
+  for (SettingsScreenItem *item in [[self screen] items]) {
+    if (![item footerLink] && [[[item specifier] name] isEqualToString:label]) {
+      NSString *problem = [self tap:item];
+      [self settle];
+      [self render];
+      return problem == nil;
+    }
+  }
+  return NO;
+}
+
+- (NSString *)perform:(NSString *)line {
+  NSString *trimmed = [line stringByTrimmingCharactersInSet:[NSCharacterSet whitespaceAndNewlineCharacterSet]];
+  if ([trimmed length] == 0 || [trimmed hasPrefix:@"#"]) return @"";
+  NSArray *words = commandWords(trimmed);
+  if ([words count] == 0) return @"";
+  NSString *verb = [[words objectAtIndex:0] lowercaseString];
+  NSUInteger count = [words count];
+  NSString *problem = nil;
+
+  if ([verb isEqualToString:@"quit"] || [verb isEqualToString:@"exit"]) {
+    _finished = YES;
+    return @"";
+  }
+  if ([verb isEqualToString:@"help"] || [verb isEqualToString:@"?"]) return [SettingsConsole helpText];
+  if ([verb isEqualToString:@"show"]) {
+    [self settle];
+    return [self render];
+  }
+  if ([verb isEqualToString:@"wait"]) {
+    double seconds = count == 2 ? [[words objectAtIndex:1] doubleValue] : -1;
+    if (seconds < 0 || seconds > 600 || (seconds == 0 && ![[words objectAtIndex:1] hasPrefix:@"0"])) {
+      return @"Say how long: wait SECONDS (e.g. wait 1.5).\n";
+    }
+    SimRunLoopRunFor(seconds);
+    [self settle];
+    return [self render];
+  }
+
+  [self render];
+  if ([self ignoringTouches]) {  // every command below is a touch on the screen
+    problem = @"The app ignores touches right now; try: wait 1";
+  } else if ([verb isEqualToString:@"tap"] && count == 2) {
+    SettingsScreenItem *item = [self itemNumbered:[words objectAtIndex:1] error:&problem];
+    if (item != nil) {
+      problem = [[self screen] alert] != nil ? @"Answer the alert first (alert N)." : [self tap:item];
+    }
+  } else if ([verb isEqualToString:@"flip"] && count == 2) {
+    SettingsScreenItem *item = [self itemNumbered:[words objectAtIndex:1] error:&problem];
+    if (item != nil) {
+      problem = [[self screen] alert] != nil ? @"Answer the alert first (alert N)." : [self setSwitch:item to:nil];
+    }
+  } else if ([verb isEqualToString:@"switch"] && count == 3) {
+    NSString *state = [[words objectAtIndex:2] lowercaseString];
+    BOOL on = [state isEqualToString:@"on"];
+    if (!on && ![state isEqualToString:@"off"]) {
+      problem = @"Say on or off: switch N on|off";
+    } else {
+      SettingsScreenItem *item = [self itemNumbered:[words objectAtIndex:1] error:&problem];
+      if (item != nil) {
+        problem = [[self screen] alert] != nil ? @"Answer the alert first (alert N)." : [self setSwitch:item to:@(on)];
+      }
+    }
+  } else if ([verb isEqualToString:@"alert"]) {
+    problem = [self triggerAlert:words];
+  } else if ([verb isEqualToString:@"type"] && count == 2) {
+    problem = [[self screen] alert] != nil ? @"Answer the alert first (alert N)." : [self type:[words objectAtIndex:1]];
+  } else if ([verb isEqualToString:@"back"] && count == 1) {
+    problem = [self back];
+  } else if ([verb isEqualToString:@"cancel"] && count == 1) {
+    problem = [self cancel];
+  } else {
+    return [NSString stringWithFormat:@"Unknown command: %@\n%@", trimmed, [SettingsConsole helpText]];
+  }
+  if (problem != nil) return [problem stringByAppendingString:@"\n"];
+  [self settle];
+  return [self render];
+}
+
+@end

@@ -1,0 +1,512 @@
+#import "SettingsScreen.h"
+#import "HostPrivateAPI.h"
+#include <objc/runtime.h>
+
+// Cell types of the Preferences framework, by number.
+enum : long {
+  kGroupCell = 0,
+  kLinkCell = 1,
+  kLinkListCell = 2,
+  kListItemCell = 3,
+  kTitleValueCell = 4,
+  kSliderCell = 5,
+  kSwitchCell = 6,
+  kStaticTextCell = 7,
+  kEditTextCell = 8,
+  kSegmentCell = 9,
+  kSecureEditTextCell = 12,
+  kButtonCell = 13,
+};
+
+static const NSUInteger kScreenWidth = 78;
+
+@implementation SettingsScreenItem
+@synthesize specifier = _specifier;
+@synthesize controller = _controller;
+@synthesize footerLink = _footerLink;
+
+- (void)dealloc {
+  [_specifier release];
+  [super dealloc];
+}
+@end
+
+#pragma mark - Text helpers
+
+NSArray *SettingsScreenWrap(NSString *text, NSUInteger width, NSString *indent) {
+  NSMutableArray *lines = [NSMutableArray array];
+  if (indent == nil) indent = @"";
+  NSUInteger room = width > [indent length] + 8 ? width - [indent length] : 8;
+  for (NSString *paragraph in [text componentsSeparatedByString:@"\n"]) {
+    NSMutableString *line = [NSMutableString string];
+    for (NSString *word in [paragraph componentsSeparatedByString:@" "]) {
+      if ([word length] == 0) {
+        // Runs of blanks are kept inside a line as they are written.
+        if ([line length] > 0 && [line length] < room) [line appendString:@" "];
+        continue;
+      }
+      NSString *rest = word;
+      while ([rest length] > room) {
+        if ([line length] > 0) {
+          [lines addObject:[indent stringByAppendingString:line]];
+          [line setString:@""];
+        }
+        [lines addObject:[indent stringByAppendingString:[rest substringToIndex:room]]];
+        rest = [rest substringFromIndex:room];
+      }
+      if ([line length] > 0 && ![line hasSuffix:@" "]) {
+        if ([line length] + 1 + [rest length] > room) {
+          [lines addObject:[indent stringByAppendingString:line]];
+          [line setString:@""];
+        } else {
+          [line appendString:@" "];
+        }
+      } else if ([line length] + [rest length] > room) {
+        [lines addObject:[indent stringByAppendingString:line]];
+        [line setString:@""];
+      }
+      [line appendString:rest];
+    }
+    [lines addObject:[indent stringByAppendingString:line]];
+  }
+  return lines;
+}
+
+// Left text and right text on one line, the right one flush with the screen's edge.
+static NSString *columns(NSString *left, NSString *right) {
+  if ([right length] == 0) return left;
+  NSUInteger used = [left length] + [right length];
+  NSUInteger gap = used + 2 <= kScreenWidth ? kScreenWidth - used : 2;
+  return [NSString stringWithFormat:@"%@%@%@", left, [@"" stringByPaddingToLength:gap withString:@" " startingAtIndex:0],
+                                    right];
+}
+
+static NSString *centred(NSString *text) {
+  NSUInteger length = [text length];
+  if (length >= kScreenWidth) return text;
+  NSUInteger pad = (kScreenWidth - length) / 2;
+  return [[@"" stringByPaddingToLength:pad withString:@" " startingAtIndex:0] stringByAppendingString:text];
+}
+
+static NSString *rule(NSString *character) {
+  return [@"" stringByPaddingToLength:kScreenWidth withString:character startingAtIndex:0];
+}
+
+static NSString *stringOrNil(id value) {
+  if ([value isKindOfClass:[NSString class]]) return [value length] > 0 ? value : nil;
+  return nil;
+}
+
+#pragma mark - Controllers
+
+NSString *SettingsScreenPageTitle(UIViewController *page) {
+  if (page == nil) return @"";
+  NSString *title = nil;
+  @try {
+    title = stringOrNil([[page navigationItem] title]);
+    if (title == nil) title = stringOrNil([page title]);
+    if (title == nil && [page respondsToSelector:@selector(specifier)]) {
+      title = stringOrNil([(PSSpecifier *)[(id)page specifier] name]);
+    }
+  } @catch (NSException *exception) {
+    title = nil;
+  }
+  if (title == nil && [NSStringFromClass([page class]) isEqualToString:@"PrefsListController"]) title = @"Settings";
+  return title != nil ? title : NSStringFromClass([page class]);
+}
+
+static UIViewController *topOf(UIViewController *controller) {
+  if ([controller isKindOfClass:[UINavigationController class]]) {
+    UINavigationController *navigation = (UINavigationController *)controller;
+    UIViewController *top = [navigation topViewController];
+    if (top == nil) top = [[navigation viewControllers] lastObject];
+    if (top == nil) top = [[navigation childViewControllers] lastObject];
+    return top;
+  }
+  return controller;
+}
+
+// What `controller` (or the page it shows) has presented, if anything.
+static UIViewController *presentedBy(UIViewController *controller) {
+  UIViewController *presented = [controller presentedViewController];
+  if (presented != nil && [presented presentingViewController] != nil && presented != controller) return presented;
+  UIViewController *top = topOf(controller);
+  if (top != nil && top != controller) {
+    presented = [top presentedViewController];
+    if (presented != nil && presented != controller) return presented;
+  }
+  return nil;
+}
+
+id SettingsScreenRowTarget(PSSpecifier *specifier, UIViewController *page) {
+  id target = [specifier target];
+  if ([target isKindOfClass:[NSValue class]]) target = [(NSValue *)target nonretainedObjectValue];
+  return target != nil ? target : page;
+}
+
+SEL SettingsScreenRowSelector(PSSpecifier *specifier, const char *which) {
+  NSString *plain = [NSString stringWithUTF8String:which];
+  NSString *underscored = [@"_" stringByAppendingString:plain];
+  for (NSString *ivarName in @[ plain, underscored ]) {
+    const char *name = [ivarName UTF8String];
+    Ivar ivar = class_getInstanceVariable([specifier class], name);
+    if (ivar != NULL) {
+      const char *type = ivar_getTypeEncoding(ivar);
+      if (type != NULL && type[0] == ':') {
+        return *(SEL *)((char *)specifier + ivar_getOffset(ivar));
+      }
+    }
+  }
+  return NULL;
+}
+
+// The row's current value, as its cell would show it.
+id SettingsScreenRowValue(PSSpecifier *specifier, UIViewController *page) {
+  id value = nil;
+  @try {
+    id target = SettingsScreenRowTarget(specifier, page);
+    SEL getter = SettingsScreenRowSelector(specifier, "getter");
+    if (getter != NULL && [target respondsToSelector:getter]) {
+      value = [target performSelector:getter withObject:specifier];
+    } else if ([specifier propertyForKey:@"key"] != nil && [page respondsToSelector:@selector(readPreferenceValue:)]) {
+      value = [(id)page readPreferenceValue:specifier];
+    }
+    if (value == nil) value = [specifier propertyForKey:@"default"];
+  } @catch (NSException *exception) {
+    value = nil;
+  }
+  return value;
+}
+
+BOOL SettingsScreenRowEnabled(PSSpecifier *specifier) {
+  id enabled = [specifier propertyForKey:@"enabled"];
+  return enabled == nil || ![enabled respondsToSelector:@selector(boolValue)] || [enabled boolValue];
+}
+
+static NSString *valueText(id value, PSSpecifier *specifier) {
+  if (value == nil) return nil;
+  id titles = nil;
+  if ([specifier respondsToSelector:@selector(titleDictionary)]) titles = [specifier titleDictionary];
+  if ([titles isKindOfClass:[NSDictionary class]]) {
+    id title = [titles objectForKey:value];
+    if (title != nil) return [title description];
+  }
+  if ([value isKindOfClass:[NSString class]]) return value;
+  if ([value isKindOfClass:[NSNumber class]]) return [value stringValue];
+  return nil;
+}
+
+#pragma mark - Renderer
+
+@interface SettingsScreen ()
+- (void)renderList:(UIViewController *)page into:(NSMutableArray *)lines items:(NSMutableArray *)items;
+- (void)renderView:(UIViewController *)page into:(NSMutableArray *)lines;
+- (void)renderAlert:(UIAlertController *)alert into:(NSMutableArray *)lines;
+@end
+
+@implementation SettingsScreen
+@synthesize text = _text;
+@synthesize items = _items;
+@synthesize page = _page;
+@synthesize navigation = _navigation;
+@synthesize modal = _modal;
+@synthesize alert = _alert;
+@synthesize passcodeField = _passcodeField;
+
+- (void)dealloc {
+  [_text release];
+  [_items release];
+  [_page release];
+  [_navigation release];
+  [_modal release];
+  [_alert release];
+  [_passcodeField release];
+  [super dealloc];
+}
+
++ (SettingsScreen *)currentScreen {
+  SettingsScreen *screen = [[[SettingsScreen alloc] init] autorelease];
+  NSMutableArray *lines = [NSMutableArray array];
+  NSMutableArray *items = [NSMutableArray array];
+
+  UIViewController *root = SimSettingsRootController();
+  if (root == nil) {
+    [screen setText:@"(the Settings app has no window)\n"];
+    [screen setItems:items];
+    return screen;
+  }
+
+  // Walk up the presentation chain: navigation controllers presented modally, then perhaps an alert.
+  UIViewController *level = root;
+  UINavigationController *navigation = [root isKindOfClass:[UINavigationController class]] ? (UINavigationController *)root : nil;
+  UINavigationController *modal = nil;
+  UIAlertController *alert = nil;
+  for (int depth = 0; depth < 16; depth++) {
+    UIViewController *presented = presentedBy(level);
+    if (presented == nil) break;
+    if ([presented isKindOfClass:[UIAlertController class]]) {
+      alert = (UIAlertController *)presented;
+      break;
+    }
+    level = presented;
+    if ([presented isKindOfClass:[UINavigationController class]]) {
+      navigation = (UINavigationController *)presented;
+      modal = navigation;
+    } else {
+      navigation = nil;
+      modal = nil;
+    }
+  }
+  UIViewController *page = topOf(level);
+  [screen setPage:page];
+  [screen setNavigation:navigation];
+  [screen setModal:modal];
+  [screen setAlert:alert];
+
+  // Title bar: where we are, the page title and the bar buttons.
+  NSMutableArray *trail = [NSMutableArray array];
+  if (modal == nil && navigation != nil) {
+    for (UIViewController *controller in [navigation viewControllers]) {
+      [trail addObject:SettingsScreenPageTitle(controller)];
+    }
+  }
+  NSString *title = SettingsScreenPageTitle(page);
+  NSMutableArray *buttons = [NSMutableArray array];
+  @try {
+    UINavigationItem *navigationItem = [page navigationItem];
+    UIBarButtonItem *left = [navigationItem leftBarButtonItem];
+    UIBarButtonItem *right = [navigationItem rightBarButtonItem];
+    if ([left title] != nil) [buttons addObject:[NSString stringWithFormat:@"[%@]", [left title]]];
+    if ([right title] != nil) [buttons addObject:[NSString stringWithFormat:@"[%@]", [right title]]];
+  } @catch (NSException *exception) {
+  }
+  [lines addObject:rule(@"=")];
+  if (modal != nil) {
+    [lines addObject:columns(@" (modal page)", [buttons componentsJoinedByString:@" "])];
+  } else if ([trail count] > 1) {
+    [lines addObject:columns([@" < " stringByAppendingString:[trail componentsJoinedByString:@" > "]],
+                             [buttons componentsJoinedByString:@" "])];
+  } else if ([buttons count] > 0) {
+    [lines addObject:columns(@"", [buttons componentsJoinedByString:@" "])];
+  }
+  [lines addObject:centred(title)];
+  [lines addObject:rule(@"=")];
+
+  if ([page isKindOfClass:[PSListController class]]) {
+    [screen renderList:page into:lines items:items];
+  } else {
+    [screen renderView:page into:lines];
+  }
+  if (alert != nil) [screen renderAlert:alert into:lines];
+
+  [screen setItems:items];
+  [screen setText:[[lines componentsJoinedByString:@"\n"] stringByAppendingString:@"\n"]];
+  return screen;
+}
+
+- (void)addFooter:(PSSpecifier *)group page:(UIViewController *)page into:(NSMutableArray *)lines
+            items:(NSMutableArray *)items {
+  if (group == nil) return;
+  NSString *footer = stringOrNil([group propertyForKey:@"footerText"]);
+  if (footer == nil) footer = stringOrNil([group propertyForKey:@"headerFooterHyperlinkButtonTitle"]);
+  if (footer == nil) footer = stringOrNil([group propertyForKey:@"ACUIFooterText"]);
+  NSString *linkAction = stringOrNil([group propertyForKey:@"footerHyperlinkAction"]);
+  BOOL wholeFooterTaps = linkAction == nil && [group buttonAction] != NULL && footer != nil;
+  if (footer != nil && !wholeFooterTaps) [lines addObjectsFromArray:SettingsScreenWrap(footer, kScreenWidth, @"    ")];
+  if (linkAction == nil && !wholeFooterTaps) return;
+
+  NSString *linkText = footer;
+  NSString *range = stringOrNil([group propertyForKey:@"footerHyperlinkRange"]);
+  if (range != nil && footer != nil) {
+    NSRange link = NSRangeFromString(range);
+    if (link.length > 0 && NSMaxRange(link) <= [footer length]) linkText = [footer substringWithRange:link];
+  }
+  linkText = [linkText stringByTrimmingCharactersInSet:[NSCharacterSet whitespaceCharacterSet]];
+  SettingsScreenItem *item = [[[SettingsScreenItem alloc] init] autorelease];
+  [item setSpecifier:group];
+  [item setController:page];
+  [item setFooterLink:YES];
+  [items addObject:item];
+  NSString *number = [NSString stringWithFormat:@"[%lu]", (unsigned long)[items count]];
+  [lines addObject:[NSString stringWithFormat:@"    %@ link: %@", number, linkText != nil ? linkText : @"(link)"]];
+}
+
+- (void)renderList:(UIViewController *)page into:(NSMutableArray *)lines items:(NSMutableArray *)items {
+  NSArray *specifiers = nil;
+  @try {
+    specifiers = [(id)page specifiers];
+  } @catch (NSException *exception) {
+    [lines addObject:[NSString stringWithFormat:@"  (the page failed to build its rows: %@)", [exception reason]]];
+    return;
+  }
+  if ([specifiers count] == 0) {
+    [lines addObject:@"  (no rows)"];
+    return;
+  }
+  PSSpecifier *group = nil;
+  for (PSSpecifier *specifier in specifiers) {
+    if (![specifier isKindOfClass:[PSSpecifier class]]) continue;
+    long type = (long)[specifier cellType];
+    if (type == kGroupCell) {
+      [self addFooter:group page:page into:lines items:items];
+      group = specifier;
+      [lines addObject:@""];
+      NSString *header = stringOrNil([specifier name]);
+      if (header != nil) [lines addObject:[@"  " stringByAppendingString:[header uppercaseString]]];
+      continue;
+    }
+    NSString *name = stringOrNil([specifier name]);
+    if (name == nil) name = @"";
+    NSString *cellClass = stringOrNil([specifier propertyForKey:@"cellClass"]);
+    if (cellClass == nil) {
+      id cls = [specifier propertyForKey:@"cellClass"];
+      if (cls != nil && class_isMetaClass(object_getClass(cls))) cellClass = NSStringFromClass(cls);
+    }
+    BOOL enabled = SettingsScreenRowEnabled(specifier);
+
+    SettingsScreenItem *item = [[[SettingsScreenItem alloc] init] autorelease];
+    [item setSpecifier:specifier];
+    [item setController:page];
+    [items addObject:item];
+    NSString *number = [NSString stringWithFormat:@"[%lu]", (unsigned long)[items count]];
+    NSString *disabled = enabled ? @"" : @" (disabled)";
+
+    if ([cellClass rangeOfString:@"Warning"].location != NSNotFound) {
+      // A status warning: framed so it stands out from every other row.
+      [lines addObject:[@"  " stringByAppendingString:[rule(@"!") substringToIndex:kScreenWidth - 4]]];
+      NSArray *parts = [name componentsSeparatedByString:@"\n"];
+      for (NSUInteger i = 0; i < [parts count]; i++) {
+        NSString *trimmed = [[parts objectAtIndex:i] stringByTrimmingCharactersInSet:[NSCharacterSet whitespaceCharacterSet]];
+        [lines addObject:[NSString stringWithFormat:@"  !! %@%@", trimmed, i + 1 == [parts count] ? disabled : @""]];
+      }
+      [lines addObject:[@"  " stringByAppendingString:[rule(@"!") substringToIndex:kScreenWidth - 4]]];
+      continue;
+    }
+    if ([cellClass rangeOfString:@"Credits"].location != NSNotFound) {
+      [lines addObject:centred([NSString stringWithFormat:@"~ %@ ~%@", name, disabled])];
+      continue;
+    }
+
+    NSString *left = [NSString stringWithFormat:@"  %@ %@", number, name];
+    NSString *right = @"";
+    id value = nil;
+    switch (type) {
+      case kSwitchCell:
+        value = SettingsScreenRowValue(specifier, page);
+        right = [value respondsToSelector:@selector(boolValue)] && [value boolValue] ? @"[on]" : @"[off]";
+        break;
+      case kLinkCell:
+      case kLinkListCell: {
+        value = SettingsScreenRowValue(specifier, page);
+        NSString *shown = valueText(value, specifier);
+        right = shown != nil ? [shown stringByAppendingString:@" >"] : @">";
+        break;
+      }
+      case kButtonCell:
+        right = @"(button)";
+        break;
+      case kTitleValueCell:
+      case kSliderCell:
+      case kSegmentCell:
+      case kListItemCell:
+        value = SettingsScreenRowValue(specifier, page);
+        right = valueText(value, specifier);
+        break;
+      case kEditTextCell:
+      case kSecureEditTextCell:
+        value = SettingsScreenRowValue(specifier, page);
+        right = type == kSecureEditTextCell && value != nil ? @"\"****\"" :
+                [NSString stringWithFormat:@"\"%@\"", value != nil ? valueText(value, specifier) : @""];
+        break;
+      default:
+        break;
+    }
+    if (right == nil) right = @"";
+    [lines addObject:columns([left stringByAppendingString:disabled], right)];
+    NSString *subtitle = stringOrNil([specifier propertyForKey:@"cellSubtitleText"]);
+    if (subtitle != nil) [lines addObjectsFromArray:SettingsScreenWrap(subtitle, kScreenWidth, @"        ")];
+  }
+  [self addFooter:group page:page into:lines items:items];
+}
+
+// Visible views of a plain page, top to bottom, with their distance from the page's top.
+static void collectViews(UIView *view, CGFloat top, NSMutableArray *found) {
+  for (UIView *subview in [view subviews]) {
+    if ([subview isHidden] || [subview alpha] <= 0.01) continue;
+    CGFloat y = top + [subview frame].origin.y;
+    [found addObject:@[ @(y), subview ]];
+    if ([subview isKindOfClass:[PSPasscodeField class]]) continue;  // the entry boxes speak for themselves
+    collectViews(subview, y, found);
+  }
+}
+
+- (void)renderView:(UIViewController *)page into:(NSMutableArray *)lines {
+  UIView *view = nil;
+  @try {
+    view = [page view];
+  } @catch (NSException *exception) {
+    [lines addObject:[NSString stringWithFormat:@"  (the page failed to load its view: %@)", [exception reason]]];
+    return;
+  }
+  NSMutableArray *found = [NSMutableArray array];
+  collectViews(view, 0, found);
+  NSArray *sorted = [found sortedArrayUsingComparator:^NSComparisonResult(id a, id b) {
+    return [[a objectAtIndex:0] compare:[b objectAtIndex:0]];
+  }];
+  [lines addObject:@""];
+  for (NSArray *entry in sorted) {
+    UIView *subview = [entry objectAtIndex:1];
+    if ([subview isKindOfClass:[PSPasscodeField class]]) {
+      [self setPasscodeField:subview];
+      NSUInteger boxes = [(PSPasscodeField *)subview numberOfEntryFields];
+      NSString *entered = [(PSPasscodeField *)subview stringValue];
+      NSMutableString *field = [NSMutableString string];
+      for (NSUInteger i = 0; i < boxes; i++) [field appendString:i < [entered length] ? @"[*]" : @"[ ]"];
+      [lines addObject:@""];
+      [lines addObject:centred(field)];
+      [lines addObject:@""];
+    } else if ([subview isKindOfClass:[UILabel class]]) {
+      NSString *text = stringOrNil([(UILabel *)subview text]);
+      if (text == nil) continue;
+      for (NSString *line in SettingsScreenWrap(text, kScreenWidth - 4, @"")) [lines addObject:centred(line)];
+    } else if ([subview isKindOfClass:[UITextField class]]) {
+      NSString *text = [(UITextField *)subview text];
+      [lines addObject:centred([NSString stringWithFormat:@"[%@]", text != nil ? text : @""])];
+    } else if ([subview isKindOfClass:[UIButton class]]) {
+      NSString *text = stringOrNil([(UIButton *)subview titleForState:UIControlStateNormal]);
+      if (text != nil) [lines addObject:centred([NSString stringWithFormat:@"( %@ )", text])];
+    }
+  }
+}
+
+- (void)renderAlert:(UIAlertController *)alert into:(NSMutableArray *)lines {
+  NSUInteger inner = kScreenWidth - 12;
+  NSMutableArray *box = [NSMutableArray array];
+  NSString *title = stringOrNil([alert title]);
+  if (title != nil) [box addObjectsFromArray:SettingsScreenWrap(title, inner, @"")];
+  NSString *message = stringOrNil([alert message]);
+  if (message != nil) {
+    if ([box count] > 0) [box addObject:@""];
+    [box addObjectsFromArray:SettingsScreenWrap(message, inner, @"")];
+  }
+  [box addObject:@""];
+  NSUInteger index = 0;
+  for (UIAlertAction *action in [alert actions]) {
+    index++;
+    NSString *style = [action style] == UIAlertActionStyleCancel        ? @" (cancel)"
+                      : [action style] == UIAlertActionStyleDestructive ? @" (destructive)"
+                                                                        : @"";
+    [box addObject:[NSString stringWithFormat:@"<alert %lu> %@%@", (unsigned long)index, [action title], style]];
+  }
+  [lines addObject:@""];
+  NSString *edge = [@"    +" stringByAppendingString:[[@"" stringByPaddingToLength:inner + 2 withString:@"-" startingAtIndex:0]
+                                                        stringByAppendingString:@"+"]];
+  [lines addObject:edge];
+  for (NSString *line in box) {
+    [lines addObject:[NSString stringWithFormat:@"    | %@ |",
+                                                [line stringByPaddingToLength:inner withString:@" " startingAtIndex:0]]];
+  }
+  [lines addObject:edge];
+}
+
+@end
