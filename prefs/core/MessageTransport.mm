@@ -24,17 +24,19 @@ bool isProductCenter(CPDistributedMessagingCenter *center) {
 }
 
 // State first, then the request file, then the signal: SpringBoard reads them in that order.
-bool signalMessage(NSString *name, NSDictionary *userInfo) {
-  const char *identifier = [name UTF8String];
-  std::optional<uint32_t> code = tessarin::messageCode(identifier ? identifier : "");
-  if (!code) return false;
+// Gives the identifier signalled, or nothing for a name that is not a message identifier.
+std::optional<std::string> signalMessage(NSString *name, NSDictionary *userInfo) {
+  const char *utf8 = [name UTF8String];
+  const std::string identifier = utf8 ? utf8 : "";
+  std::optional<uint32_t> code = tessarin::messageCode(identifier);
+  if (!code) return std::nullopt;
   notify_set_state(transportToken, *code);
   if (userInfo != nil) {
     NSString *requestPath = @(tessarin::requestFilePath(identifier).c_str());
     [userInfo writeToFile:devicePath(requestPath) atomically:YES];
   }
   notify_post(tessarin::kTransportSignal);
-  return true;
+  return identifier;
 }
 
 double secondsNow() {
@@ -50,9 +52,10 @@ BOOL sendMessage(id self, SEL _cmd, NSString *name, NSDictionary *userInfo) {
 
 id sendMessageAndReceiveReply(id self, SEL _cmd, NSString *name, NSDictionary *userInfo) {
   if (!isProductCenter(self)) return platformSendMessageAndReceiveReply(self, _cmd, name, userInfo);
-  if (!signalMessage(name, userInfo)) return nil;
+  std::optional<std::string> identifier = signalMessage(name, userInfo);
+  if (!identifier) return nil;
 
-  const std::string replyPath = devicePath(tessarin::replyFilePath([name UTF8String]).c_str());
+  const std::string replyPath = devicePath(tessarin::replyFilePath(*identifier).c_str());
   std::optional<tessarin::Bytes> data = tessarin::awaitReply(
       [&replyPath] { return tessarin::readReplyFile(replyPath); }, secondsNow, tessarin::kReplyBudgetSeconds);
   if (!data) return nil;
