@@ -50,7 +50,7 @@ void resetPasscode(CFNotificationCenterRef center, void *observer, CFStringRef n
 @implementation TessarinPasscodeSettingsController
 
 - (NSMutableArray *)specifiers {
-  if ([_specifiers count] != 0) return _specifiers;
+  if ([_specifiers count] != 0) return (NSMutableArray *)_specifiers;
 
   NSArray *loaded = [self loadSpecifiersFromPlistName:stringOf(std::string_view(kSettingsPlistName)) target:self];
   id stored = prefsValueForKey(kPasscodeKey);
@@ -105,7 +105,7 @@ void resetPasscode(CFNotificationCenterRef center, void *observer, CFStringRef n
   [_specifiers release];
   _specifiers = [rows retain];
   [[self navigationItem] setTitle:passcodePageText(text::kOptionsTitle)];
-  return _specifiers;
+  return rows;
 }
 
 - (UINavigationItem *)navigationItem {

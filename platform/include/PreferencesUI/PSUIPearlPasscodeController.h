@@ -1,0 +1,1 @@
+#import <PreferencesUI/PSBiometricSettingsControllers.h>
