@@ -1,0 +1,10 @@
+#import <Preferences/PSSpecifier.h>
+#import <Preferences/PSViewController.h>
+#import <Preferences/PSListController.h>
+#import <Preferences/PSEditableListController.h>
+#import <Preferences/PSTableCell.h>
+#import <Preferences/PSSwitchTableCell.h>
+#import <Preferences/PSHeaderFooterView.h>
+#import <Preferences/PSFooterHyperlinkView.h>
+#import <Preferences/PSPasscodeField.h>
+#import <Preferences/PSRootController.h>

@@ -1,0 +1,34 @@
+/* The Settings application around the Preferences stand-in, and test and host hooks. Not
+   part of the device's framework: product code never includes this header. */
+#ifndef PREFERENCES_PREFERENCESSIMULATION_H
+#define PREFERENCES_PREFERENCESSIMULATION_H
+
+#import <Preferences/Preferences.h>
+#import <UIKit/UIKitSimulation.h>
+
+/* The Settings application: UIApplication's shared instance is of this class. */
+@interface PreferencesAppController : UIApplication
+/* The root navigation controller, made (with its window, key and visible, and its root list
+   page) on first use. */
+- (PSRootController *)rootController;
+@end
+
+/* The Settings root list page; its rows are set with SimSettingsSetRootSpecifiers. */
+@interface PrefsListController : PSListController
+@end
+
+/* Makes the Settings app's window, root navigation controller and root list page (once). */
+UIKIT_EXTERN PSRootController *SimSettingsRootController(void);
+/* Rows of the Settings root list (for pages that read them). */
+UIKIT_EXTERN void SimSettingsSetRootSpecifiers(NSArray *specifiers);
+/* Drops the Settings window and its controllers (with SimUIKitReset). */
+UIKIT_EXTERN void SimSettingsReset(void);
+
+/* Taps a row of a list page as the user would: switches flip, buttons act, links push. */
+UIKIT_EXTERN BOOL SimListControllerTapSpecifier(PSListController *controller, PSSpecifier *specifier);
+/* Types into a passcode field, one character at a time. */
+UIKIT_EXTERN void SimPasscodeFieldType(PSPasscodeField *field, NSString *digits);
+/* Taps the link of a hyperlink footer. */
+UIKIT_EXTERN BOOL SimFooterHyperlinkTap(PSFooterHyperlinkView *view);
+
+#endif
