@@ -1,9 +1,8 @@
 // Keeps the three sample glyphs of the button page in their own colours whatever
 // PassKit sets while their state changes.
-#import <UIKit/UIKit.h>
+#import "core/PlatformAPI.h"
 #import "core/Startup.h"
 #import "core/VersionFlags.h"
-#include <substrate.h>
 
 namespace {
 

@@ -1,5 +1,5 @@
 #pragma once
-#import <UIKit/UIKit.h>
+#import "core/PlatformAPI.h"
 
 // Plain C entry points, so tools and tests can find them by name.
 #ifdef __cplusplus

@@ -1,5 +1,5 @@
 #import "core/Alerts.h"
-#include <dispatch/dispatch.h>
+#import "core/PlatformAPI.h"
 
 void showAlertWithTitleAndMessageAndAlertActionsFromViewControllerWithStyle(
     NSString *title, NSString *message, NSArray *actions, UIViewController *presenter,

@@ -1,5 +1,5 @@
 #import "core/Hardware.h"
-#include <IOKit/IOKitLib.h>
+#import "core/PlatformAPI.h"
 
 BOOL hasPearlCam = NO;
 BOOL hasSetPearl = NO;

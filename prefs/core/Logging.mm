@@ -1,12 +1,10 @@
 #import "core/Logging.h"
 #import "core/Paths.h"
-#include <CoreFoundation/CoreFoundation.h>
-#include <dlfcn.h>
+#import "core/PlatformAPI.h"
 #include <stdio.h>
 #include <stdlib.h>
 #include <time.h>
 #include <unistd.h>
-#include <substrate.h>
 #include "core/LogLine.hpp"
 
 namespace {

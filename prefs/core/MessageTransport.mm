@@ -2,9 +2,7 @@
 #import "core/Paths.h"
 #import "core/PlistBridge.h"
 #import "core/VersionFlags.h"
-#import <AppSupport/CPDistributedMessagingCenter.h>
-#include <notify.h>
-#include <substrate.h>
+#import "core/PlatformAPI.h"
 #include <chrono>
 #include <string>
 #include "core/MessageCode.hpp"

@@ -1,4 +1,5 @@
 #import "core/Paths.h"
+#import <Foundation/Foundation.h>
 #include <libroot.h>
 #include <limits.h>
 #if TESSARIN_SIMULATED

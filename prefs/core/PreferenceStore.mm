@@ -1,6 +1,5 @@
 #import "core/PreferenceStore.h"
-#include <CoreFoundation/CoreFoundation.h>
-#include <notify.h>
+#import "core/PlatformAPI.h"
 #include <stdint.h>
 #include "core/Names.hpp"
 

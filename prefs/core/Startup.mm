@@ -1,11 +1,9 @@
 #import "core/Startup.h"
-#import <Foundation/Foundation.h>
+#import "core/PlatformAPI.h"
 #import "core/Logging.h"
 #import "core/MessageTransport.h"
 #import "core/VersionFlags.h"
-#include <dlfcn.h>
 #include <string.h>
-#include <substrate.h>
 
 namespace {
 

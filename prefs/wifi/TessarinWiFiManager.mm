@@ -1,6 +1,5 @@
 #import "wifi/TessarinWiFiManager.h"
-#include <CoreFoundation/CoreFoundation.h>
-#include <dlfcn.h>
+#import "core/PlatformAPI.h"
 #include "core/Names.hpp"
 #include "wifi/WiFiNetworks.hpp"
 
