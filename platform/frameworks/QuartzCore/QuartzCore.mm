@@ -317,7 +317,31 @@ CGAffineTransform CATransform3DGetAffineTransform(CATransform3D t) {
 }
 @end
 
-// Transactions.
+// Transactions. Blocks are not objects under this runtime: a box owns a heap copy.
+
+@interface _SimCABlockBox : NSObject {
+  void (^_block)(void);
+}
+- (instancetype)initWithBlock:(void (^)(void))block;
+- (void (^)(void))block;
+- (void)run;
+@end
+@implementation _SimCABlockBox
+- (instancetype)initWithBlock:(void (^)(void))block {
+  if ((self = [super init]) && block) _block = Block_copy(block);
+  return self;
+}
+- (void)dealloc {
+  if (_block) Block_release(_block);
+  [super dealloc];
+}
+- (void (^)(void))block {
+  return _block;
+}
+- (void)run {
+  if (_block) _block();
+}
+@end
 
 @interface _SimCATransactionState : NSObject {
   NSInteger _depth;
@@ -345,8 +369,8 @@ CGAffineTransform CATransform3DGetAffineTransform(CATransform3D t) {
   }
   return self;
 }
-- (void)runCompletion:(id)block {
-  ((void (^)(void))block)();
+- (void)runCompletion:(_SimCABlockBox *)box {
+  [box run];
 }
 @end
 
@@ -360,12 +384,12 @@ CGAffineTransform CATransform3DGetAffineTransform(CATransform3D t) {
   _SimCATransactionState *s = [_SimCATransactionState shared];
   if (s.depth == 0) return;
   s.depth = s.depth - 1;
-  id block = [[[s.completions lastObject] retain] autorelease];
+  id box = [[[s.completions lastObject] retain] autorelease];
   [s.completions removeLastObject];
   if (s.depth == 0) [s.values removeAllObjects];
-  if (block != [NSNull null]) {
+  if (box != [NSNull null]) {
     NSTimeInterval delay = [[s.values objectForKey:@"animationDuration"] doubleValue];
-    [s performSelector:@selector(runCompletion:) withObject:block afterDelay:delay];
+    [s performSelector:@selector(runCompletion:) withObject:box afterDelay:delay];
   }
 }
 + (void)flush {
@@ -405,16 +429,19 @@ CGAffineTransform CATransform3DGetAffineTransform(CATransform3D t) {
 }
 + (void (^)(void))completionBlock {
   id b = [[_SimCATransactionState shared].completions lastObject];
-  return b == [NSNull null] ? nil : b;
+  if ([b isKindOfClass:[_SimCABlockBox class]]) return [b block];
+  return nil;
 }
 + (void)setCompletionBlock:(void (^)(void))block {
   _SimCATransactionState *s = [_SimCATransactionState shared];
   if (s.depth == 0) {
     // Outside an explicit transaction the implicit one commits at the end of this turn.
-    if (block) [s performSelector:@selector(runCompletion:) withObject:[[block copy] autorelease] afterDelay:0];
+    if (block)
+      [s performSelector:@selector(runCompletion:) withObject:[[[_SimCABlockBox alloc] initWithBlock:block] autorelease]
+              afterDelay:0];
     return;
   }
-  id value = block ? (id)[[block copy] autorelease] : (id)[NSNull null];
+  id value = block ? (id)[[[_SimCABlockBox alloc] initWithBlock:block] autorelease] : (id)[NSNull null];
   [s.completions replaceObjectAtIndex:s.completions.count - 1 withObject:value];
 }
 @end

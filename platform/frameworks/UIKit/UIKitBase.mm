@@ -89,6 +89,21 @@ void SimUIKitReset(void) {
   SimUIKitResetApplication();
 }
 
+// Blocks are not objects under this runtime: a box owns a heap copy.
+@implementation _SimBlockBox
+- (instancetype)initWithBlock:(void (^)(void))block {
+  if ((self = [super init]) && block) _block = Block_copy(block);
+  return self;
+}
+- (void)dealloc {
+  if (_block) Block_release(_block);
+  [super dealloc];
+}
+- (void)run {
+  if (_block) _block();
+}
+@end
+
 // Timeline: blocks due at a time run in due order, ties in scheduling order.
 
 @interface _SimTimeline : NSObject {
@@ -127,7 +142,7 @@ void SimUIKitReset(void) {
   if (!block) return;
   NSDate *due = [NSDate dateWithTimeIntervalSinceNow:delay > 0 ? delay : 0];
   NSArray *entry = [NSArray arrayWithObjects:due, [NSNumber numberWithUnsignedLongLong:++_sequence],
-                                             [[block copy] autorelease], nil];
+                                             [[[_SimBlockBox alloc] initWithBlock:block] autorelease], nil];
   NSUInteger i = _entries.count;
   while (i > 0 && [[[_entries objectAtIndex:i - 1] objectAtIndex:0] compare:due] == NSOrderedDescending) --i;
   [_entries insertObject:entry atIndex:i];
@@ -141,8 +156,7 @@ void SimUIKitReset(void) {
     if ([[entry objectAtIndex:0] compare:now] == NSOrderedDescending) break;
     [_entries removeObjectAtIndex:0];
     NSAutoreleasePool *pool = [[NSAutoreleasePool alloc] init];
-    void (^block)(void) = [entry objectAtIndex:2];
-    block();
+    [(_SimBlockBox *)[entry objectAtIndex:2] run];
     [pool release];
   }
   if (!_timer) [self arm];

@@ -20,6 +20,14 @@ CGSize SimUIKitTextSize(NSString *text, UIFont *font, CGFloat maxWidth, NSIntege
 }
 #endif
 
+/* Owns a heap copy of a block (blocks are not objects under this runtime). */
+@interface _SimBlockBox : NSObject {
+  void (^_block)(void);
+}
+- (instancetype)initWithBlock:(void (^)(void))block;
+- (void)run;
+@end
+
 @interface UIView (SimInternal)
 /* The controller whose view this is (not retained). */
 - (id)_simViewDelegate;

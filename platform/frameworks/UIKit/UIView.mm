@@ -602,9 +602,8 @@ static NSInteger gAnimationsDisabled;
   SimUIKitRecordAnimation(duration, delay, options);
   if (animations) animations();
   if (completion) {
-    void (^done)(BOOL) = [[completion copy] autorelease];
     SimUIKitSchedule(delay + duration, ^{
-      done(YES);
+      completion(YES);
     });
   }
 }

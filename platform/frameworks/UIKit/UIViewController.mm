@@ -235,11 +235,10 @@ enum { kDisappeared = 0, kAppearing = 1, kAppeared = 2, kDisappearing = 3 };
   }
   if (window) [window addSubview:v];
   [vc _simBeginAppearance:YES animated:animated];
-  void (^done)(void) = [[completion copy] autorelease];
   [vc retain];
   SimUIKitSchedule(animated ? SimTransitionDuration : 0, ^{
     [vc _simEndAppearance:YES animated:animated];
-    if (done) done();
+    if (completion) completion();
     [vc release];
   });
 }
@@ -263,7 +262,6 @@ enum { kDisappeared = 0, kAppearing = 1, kAppeared = 2, kDisappearing = 3 };
   presented->_dismissing = YES;
   for (UIViewController *c = top; c; c = c == presented ? nil : c->_presentingViewController)
     [c _simBeginAppearance:NO animated:animated];
-  void (^done)(void) = [[completion copy] autorelease];
   [host retain];
   SimUIKitSchedule(animated ? SimTransitionDuration : 0, ^{
     UIViewController *p = host->_presentedViewController;
@@ -282,7 +280,7 @@ enum { kDisappeared = 0, kAppearing = 1, kAppeared = 2, kDisappearing = 3 };
         [c autorelease];
       }
     }
-    if (done) done();
+    if (completion) completion();
     [host release];
   });
 }
@@ -642,12 +640,12 @@ BOOL SimTapBarButtonItem(UIBarButtonItem *item) {
   a->_title = [title copy];
   a->_style = style;
   a->_enabled = YES;
-  a->_handler = [handler copy];
+  if (handler) a->_handler = Block_copy(handler);
   return a;
 }
 - (void)dealloc {
   [_title release];
-  [_handler release];
+  if (_handler) Block_release(_handler);
   [super dealloc];
 }
 - (id)copyWithZone:(NSZone *)zone {
@@ -657,8 +655,9 @@ BOOL SimTapBarButtonItem(UIBarButtonItem *item) {
   return _handler;
 }
 - (void)setHandler:(void (^)(UIAlertAction *))handler {
-  void (^copy)(UIAlertAction *) = [handler copy];
-  [_handler release];
+  void (^copy)(UIAlertAction *) = nil;
+  if (handler) copy = Block_copy(handler);
+  if (_handler) Block_release(_handler);
   _handler = copy;
 }
 - (NSString *)description {
@@ -722,7 +721,7 @@ BOOL SimTapBarButtonItem(UIBarButtonItem *item) {
   [v release];
 }
 - (void)_dismissAnimated:(BOOL)animated triggeringAction:(UIAlertAction *)action {
-  void (^handler)(UIAlertAction *) = [[action.handler retain] autorelease];
+  void (^handler)(UIAlertAction *) = action.handler;
   [action retain];
   [self dismissViewControllerAnimated:animated completion:^{
     if (handler) handler(action);
@@ -825,9 +824,8 @@ static UIApplication *gSharedApplication;
 - (void)openURL:(NSURL *)url options:(NSDictionary *)options completionHandler:(void (^)(BOOL success))completion {
   BOOL ok = [self openURL:url];
   if (completion) {
-    void (^done)(BOOL) = [[completion copy] autorelease];
     SimUIKitSchedule(0, ^{
-      done(ok);
+      completion(ok);
     });
   }
 }
