@@ -20,8 +20,10 @@ BUNDLE_NAME = TessarinPrefs
 
 # Every Objective-C++ and C++ source of the bundle. Product files that only make
 # sense in the Linux build go under a directory named "linux" and are left out here.
+# The start-up constructor links last, as in the CMake build.
 TESSARIN_SOURCES := $(sort $(shell find prefs \( -name '*.mm' -o -name '*.cpp' \) -type f))
-TessarinPrefs_FILES = $(filter-out %/linux/%,$(TESSARIN_SOURCES))
+TESSARIN_STARTUP := $(wildcard prefs/core/StartupAtLoad.mm)
+TessarinPrefs_FILES = $(filter-out %/linux/% $(TESSARIN_STARTUP),$(TESSARIN_SOURCES)) $(TESSARIN_STARTUP)
 
 TessarinPrefs_INSTALL_PATH = /Library/PreferenceBundles
 TessarinPrefs_RESOURCE_DIRS = resources

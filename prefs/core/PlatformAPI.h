@@ -6,9 +6,11 @@
  * Two builds compile the same sources:
  * - the device build (Theos, iOS SDK), TESSARIN_SIMULATED 0: public SDK headers, the
  *   substrate and jail-root headers of Theos, and our own declarations of the private
- *   API in core/ios/;
+ *   frameworks' classes in core/ios/;
  * - the Linux build (CMake), TESSARIN_SIMULATED 1: the stand-in frameworks under
- *   platform/include, which declare the private API under Apple's header paths.
+ *   platform/include, which declare those classes under Apple's header paths.
+ * Private members of public classes (UIKit, the Settings app) are declared below for
+ * both builds.
  *
  * Rules for callers:
  * - Classes of frameworks the bundle does not link are reached by name:
@@ -17,6 +19,7 @@
  *   Their declarations only make messages to the looked-up class type-check.
  * - MobileGestalt, MobileWiFi and Accessibility functions are looked up with
  *   dlsym(RTLD_DEFAULT, "..."); use the pointer types at the end of this header.
+ * - Code that only makes sense on Linux goes under #if TESSARIN_SIMULATED.
  * - Pass kIOMasterPortDefault to IOKit (kIOMainPortDefault exists only from iOS 15).
  */
 #ifndef TESSARIN_PLATFORM_API_H
@@ -44,18 +47,9 @@
 #if TESSARIN_SIMULATED
 
 #include <IOKit/IOKitLib.h>
-#import <Preferences/PSSpecifier.h>
-#import <Preferences/PSViewController.h>
-#import <Preferences/PSListController.h>
-#import <Preferences/PSEditableListController.h>
-#import <Preferences/PSTableCell.h>
-#import <Preferences/PSSwitchTableCell.h>
-#import <Preferences/PSPasscodeField.h>
-#import <Preferences/PSFooterHyperlinkView.h>
+#import <Preferences/Preferences.h>
 #import <AppSupport/CPDistributedMessagingCenter.h>
-#if __has_include(<ManagedConfiguration/MCPasscodeManager.h>)
 #import <ManagedConfiguration/MCPasscodeManager.h>
-#endif
 #if __has_include(<PassKit/PKGlyphView.h>)
 #import <PassKit/PKGlyphView.h>
 #endif
@@ -78,6 +72,50 @@
 #import "ios/PrivateFrameworks.h"
 
 #endif
+
+#pragma mark - Private members of public classes
+
+// No SDK header declares these on either build; the device's UIKit and the Settings
+// app implement them, and so does the Linux stand-in.
+
+@interface UIApplication (TessarinSettingsApp)
+// The Settings app's root navigation controller (the Settings application only).
+- (UINavigationController *)rootController;
+@end
+
+@interface UINavigationController (TessarinSettingsApp)
+// On the Settings app's root controller: the list of Settings panes (class PrefsListController).
+- (id)rootListController;
+@end
+
+@interface UIDevice (TessarinPrivate)
+- (void)_playSystemSound:(unsigned int)soundID;
+@end
+
+@interface UIImage (TessarinPrivate)
++ (UIImage *)_applicationIconImageForBundleIdentifier:(NSString *)bundleIdentifier format:(int)format;
++ (UIImage *)_applicationIconImageForBundleIdentifier:(NSString *)bundleIdentifier
+                                               format:(int)format
+                                                scale:(CGFloat)scale;
+- (UIImage *)_applicationIconImageForFormat:(int)format precomposed:(BOOL)precomposed;
+@end
+
+@interface UITableViewCell (TessarinPrivate)
+@property (nonatomic, retain) UIColor *separatorColor;
+@end
+
+// The system's biometric settings pages, reached by name: PSUIPearlPasscodeController,
+// PSMesaSettingsController, PSTouchIDPasscodeController, PSUITouchIDPasscodeController
+// (PSViewController subclasses, made with initForContentSize:). Given the device passcode
+// as their specifier's "passcode" property, an unlocked page holds an authorisation
+// token; which of the two getters a system has varies, so ask respondsToSelector: first.
+@protocol TessarinBiometricSettingsPage <NSObject>
+@optional
+- (NSData *)_authorizationToken;
+- (NSData *)authorizationToken;
+@end
+
+#pragma mark - Functions looked up with dlsym(RTLD_DEFAULT, name)
 
 #ifdef __cplusplus
 extern "C" {

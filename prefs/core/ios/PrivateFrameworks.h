@@ -1,22 +1,20 @@
 /*
- * Private iOS API that the bundle uses, declared once, for the device build.
+ * Classes of the private frameworks (and of one add-on) that the bundle uses, declared
+ * for the device build, whose SDK has no headers for them. The Linux stand-ins declare
+ * the same classes under Apple's header paths. Private members of public classes are
+ * declared for both builds in core/PlatformAPI.h, which alone imports this file.
  *
- * Imported only by core/PlatformAPI.h, after Foundation and UIKit. Signatures are the
- * system's own; only the members the bundle calls are declared.
- *
- * Two kinds of classes:
+ * Signatures are the system's own; only the members the bundle calls are declared.
  * - Preferences.framework classes (PS...): the bundle links that framework and
  *   subclasses several of them, so they are ordinary declarations.
  * - Classes of frameworks the bundle does not link (AppSupport, ManagedConfiguration,
- *   PassKit's glyph view, the Flipswitch add-on): declared as weak imports
- *   (TESSARIN_RUNTIME_CLASS). Reach them with NSClassFromString(@"...") and message
- *   the result; the declarations are there so those messages type-check. The
- *   Makefile lets dyld resolve any direct reference that slips through.
- * The system's biometric settings pages (PSUIPearlPasscodeController,
- * PSMesaSettingsController, PSTouchIDPasscodeController, PSUITouchIDPasscodeController),
- * the Settings root list (PrefsListController) and PSUIAppleIDAccountDetailsLinkCell
- * exist only on some systems and are used by name only: they are deliberately not
- * declared here.
+ *   PassKit's glyph view, the Flipswitch add-on): weak imports (TESSARIN_RUNTIME_CLASS).
+ *   Reach them with NSClassFromString(@"...") and message the result; the declarations
+ *   are there so those messages type-check. The Makefile leaves any direct reference
+ *   that slips through for dyld to resolve.
+ * The system's biometric settings pages, the Settings root list (PrefsListController)
+ * and PSUIAppleIDAccountDetailsLinkCell exist only on some systems and are used by name
+ * only: they are deliberately not declared.
  */
 #ifndef TESSARIN_IOS_PRIVATE_FRAMEWORKS_H
 #define TESSARIN_IOS_PRIVATE_FRAMEWORKS_H
@@ -60,6 +58,7 @@ typedef NS_ENUM(NSInteger, PSCellType) {
 + (instancetype)emptyGroupSpecifier;
 
 @property (nonatomic, retain) NSString *name;
+// The "id" property.
 @property (nonatomic, retain) NSString *identifier;
 @property (nonatomic, assign) id target;
 @property (nonatomic, assign) PSCellType cellType;
@@ -67,46 +66,64 @@ typedef NS_ENUM(NSInteger, PSCellType) {
 @property (nonatomic, assign) Class editPaneClass;
 @property (nonatomic, assign) SEL buttonAction;
 @property (nonatomic, assign) SEL controllerLoadAction;
+@property (nonatomic, retain) id userInfo;
+@property (nonatomic, retain) NSArray *values;
+@property (nonatomic, retain) NSDictionary *titleDictionary;
 @property (nonatomic, retain) NSMutableDictionary *properties;
 
-- (void)setProperty:(id)property forKey:(NSString *)key;
 - (id)propertyForKey:(NSString *)key;
+- (void)setProperty:(id)value forKey:(NSString *)key;
 - (void)removePropertyForKey:(NSString *)key;
+- (void)setValues:(NSArray *)values titles:(NSArray *)titles;
 @end
 
 @interface PSViewController : UIViewController
 - (instancetype)initForContentSize:(CGSize)contentSize;
 @property (nonatomic, retain) PSSpecifier *specifier;
-@property (nonatomic, assign) id parentController;
+@property (nonatomic, assign) UIViewController *parentController;
 @property (nonatomic, assign) id rootController;
+- (void)setPreferenceValue:(id)value specifier:(PSSpecifier *)specifier;
+- (id)readPreferenceValue:(PSSpecifier *)specifier;
+- (void)pushController:(UIViewController *)controller animate:(BOOL)animate;
 @end
 
 @interface PSListController : PSViewController <UITableViewDelegate, UITableViewDataSource> {
   // The page's row cache: subclasses fill it in -specifiers and return it.
-  NSMutableArray *_specifiers;
+  NSArray *_specifiers;
 }
-- (NSMutableArray *)specifiers;
-- (void)setSpecifiers:(NSArray *)specifiers;
-- (NSMutableArray *)loadSpecifiersFromPlistName:(NSString *)plistName target:(id)target;
+@property (nonatomic, retain) NSArray *specifiers;
+- (NSArray *)loadSpecifiersFromPlistName:(NSString *)plistName target:(id)target;
+- (UITableView *)table;
+- (NSBundle *)bundle;
+- (void)reloadSpecifiers;
+- (void)reloadSpecifier:(PSSpecifier *)specifier;
+- (void)reloadSpecifier:(PSSpecifier *)specifier animated:(BOOL)animated;
+- (void)reloadSpecifierID:(NSString *)identifier;
 - (PSSpecifier *)specifierForID:(NSString *)identifier;
 - (PSSpecifier *)specifierAtIndex:(NSInteger)index;
 - (NSInteger)indexOfSpecifier:(PSSpecifier *)specifier;
-- (void)reloadSpecifiers;
-- (void)reloadSpecifier:(PSSpecifier *)specifier;
+- (NSInteger)indexOfSpecifierID:(NSString *)identifier;
+- (BOOL)containsSpecifier:(PSSpecifier *)specifier;
 - (void)insertSpecifier:(PSSpecifier *)specifier atIndex:(NSInteger)index;
+- (void)insertSpecifier:(PSSpecifier *)specifier atIndex:(NSInteger)index animated:(BOOL)animated;
+- (void)addSpecifier:(PSSpecifier *)specifier;
+- (void)addSpecifier:(PSSpecifier *)specifier animated:(BOOL)animated;
 - (void)removeSpecifier:(PSSpecifier *)specifier;
-- (void)setPreferenceValue:(id)value specifier:(PSSpecifier *)specifier;
-- (id)readPreferenceValue:(PSSpecifier *)specifier;
-- (void)pushController:(UIViewController *)controller animate:(BOOL)animate;
+- (void)removeSpecifier:(PSSpecifier *)specifier animated:(BOOL)animated;
+- (void)removeSpecifierID:(NSString *)identifier;
+- (void)removeSpecifierID:(NSString *)identifier animated:(BOOL)animated;
 - (UITableViewCell *)cachedCellForSpecifier:(PSSpecifier *)specifier;
-- (UITableView *)table;
-- (NSBundle *)bundle;
+- (UITableViewCell *)cachedCellForSpecifierID:(NSString *)identifier;
 @end
 
 @interface PSEditableListController : PSListController
+@property (nonatomic, assign) BOOL editable;
 - (BOOL)performDeletionActionForSpecifier:(PSSpecifier *)specifier;
-- (BOOL)editable;
-- (void)setEditable:(BOOL)editable;
+- (void)setEditingButtonHidden:(BOOL)hidden animated:(BOOL)animated;
+@end
+
+// The Settings app's root navigation controller.
+@interface PSRootController : UINavigationController
 @end
 
 @interface PSTableCell : UITableViewCell
@@ -114,6 +131,7 @@ typedef NS_ENUM(NSInteger, PSCellType) {
               reuseIdentifier:(NSString *)reuseIdentifier
                     specifier:(PSSpecifier *)specifier;
 @property (nonatomic, retain) PSSpecifier *specifier;
+- (void)setCellEnabled:(BOOL)enabled;
 - (UILabel *)titleLabel;
 - (UILabel *)valueLabel;
 - (UIImageView *)iconImageView;
@@ -137,15 +155,13 @@ typedef NS_ENUM(NSInteger, PSCellType) {
 @protocol PSPasscodeFieldDelegate <NSObject>
 @optional
 - (void)passcodeField:(PSPasscodeField *)field enteredPasscode:(NSString *)passcode;
-- (void)passcodeFieldDidBeginEditing:(PSPasscodeField *)field;
-- (void)passcodeFieldDidEndEditing:(PSPasscodeField *)field;
 @end
 
 @interface PSPasscodeField : UIView
 - (instancetype)initWithNumberOfEntryFields:(NSUInteger)numberOfEntryFields;
 @property (nonatomic, assign) NSUInteger numberOfEntryFields;
-@property (nonatomic, assign) BOOL securePasscodeEntry;
 @property (nonatomic, copy) NSString *stringValue;
+@property (nonatomic, assign) BOOL securePasscodeEntry;
 @property (nonatomic, assign) id<PSPasscodeFieldDelegate> delegate;
 @end
 
@@ -215,32 +231,6 @@ TESSARIN_RUNTIME_CLASS
                    controlState:(UIControlState)controlState
             forSwitchIdentifier:(NSString *)switchIdentifier
                   usingTemplate:(NSBundle *)templateBundle;
-@end
-
-#pragma mark - Private members of public classes
-
-// In the Settings app the application object is its own UIApplication subclass.
-@interface UIApplication (TessarinSettingsApp)
-// The Settings app's root navigation controller.
-- (UINavigationController *)rootController;
-@end
-
-@interface UINavigationController (TessarinSettingsApp)
-// On the Settings app's root controller: the top-level list of Settings panes.
-- (PSListController *)rootListController;
-@end
-
-@interface UIDevice (TessarinPrivate)
-- (void)_playSystemSound:(unsigned int)soundID;
-@end
-
-@interface UIImage (TessarinPrivate)
-+ (UIImage *)imageNamed:(NSString *)name inBundle:(NSBundle *)bundle;
-+ (UIImage *)_applicationIconImageForBundleIdentifier:(NSString *)bundleIdentifier format:(int)format;
-+ (UIImage *)_applicationIconImageForBundleIdentifier:(NSString *)bundleIdentifier
-                                               format:(int)format
-                                                scale:(CGFloat)scale;
-- (UIImage *)_applicationIconImageForFormat:(int)format precomposed:(BOOL)precomposed;
 @end
 
 #endif
