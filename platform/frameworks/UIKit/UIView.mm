@@ -376,7 +376,6 @@ void SimUIKitResetResponders(void) {
     NSUInteger i = [_layer.sublayers indexOfObjectIdenticalTo:below];
     layerIndex = i == NSNotFound ? _layer.sublayers.count : i + 1;
   } else {
-    layerIndex = 0;
     NSArray *sub = _layer.sublayers;
     if (_subviews.count > 1) {
       NSUInteger i = [sub indexOfObjectIdenticalTo:((UIView *)[_subviews objectAtIndex:1]).layer];
