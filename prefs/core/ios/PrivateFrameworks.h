@@ -173,7 +173,7 @@ typedef NS_ENUM(NSInteger, PSCellType) {
 - (CGFloat)preferredHeightForWidth:(CGFloat)width inTableView:(UITableView *)tableView;
 @end
 
-@interface PSFooterHyperlinkView : UITableViewHeaderFooterView <PSHeaderFooterView>
+@interface PSFooterHyperlinkView : UIView <PSHeaderFooterView>
 @end
 
 #pragma mark - Classes reached by name at run time
