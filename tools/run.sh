@@ -4,5 +4,5 @@
 #   tools/run.sh [profile] [host options...]
 set -euo pipefail
 top=$(cd "$(dirname "$0")/.." && pwd)
-"$top/tools/build.sh" "$top/build" >/dev/null
+"$top/tools/build.sh" "$top/build"
 exec "$top/build/platform/host/tessarin-settings" "$@"
