@@ -19,3 +19,6 @@ export UBSAN_OPTIONS=print_stacktrace=1:halt_on_error=1
 
 echo "== static analysis"
 "$top/tools/analyze.sh"
+
+echo "== device-build check (the bundle's sources as the iOS build compiles them)"
+"$top/tools/device-check.sh"

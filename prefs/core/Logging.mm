@@ -9,14 +9,13 @@
 
 namespace {
 
-typedef CFTypeRef (*MGCopyAnswerFunction)(CFStringRef question);
 MGCopyAnswerFunction copyAnswer = NULL;
 bool lookedUpCopyAnswer = false;
 
 std::string userAssignedDeviceName() {
   std::string name;
   if (copyAnswer == NULL) return name;
-  CFTypeRef answer = copyAnswer((CFStringRef)@"UserAssignedDeviceName");
+  CFPropertyListRef answer = copyAnswer((CFStringRef)@"UserAssignedDeviceName");
   if (answer == NULL) return name;
   id object = (id)answer;
   if ([object isKindOfClass:[NSString class]]) {

@@ -5,27 +5,18 @@
 
 namespace wifi = tessarin::wifi;
 
-typedef CFArrayRef (*CopyNetworksFunction)(void *manager);
 // Also used by the trusted networks page.
-CopyNetworksFunction xWiFiManagerClientCopyNetworks = NULL;
+WiFiManagerClientCopyNetworksFunction xWiFiManagerClientCopyNetworks = NULL;
 
 namespace {
 
-typedef void (*ScheduleFunction)(void *manager, void *runLoop, CFStringRef mode);
-typedef CFTypeRef (*GetPropertyFunction)(void *network, CFStringRef property);
-typedef CFStringRef (*CopyPasswordFunction)(void *network);
-typedef void *(*CopyCurrentNetworkFunction)(void *device);
-typedef void *(*CreateFunction)(CFAllocatorRef allocator, int flags);
-typedef CFArrayRef (*CopyDevicesFunction)(void *manager);
-typedef CFDictionaryRef (*CopyRecordFunction)(void *network);
-
 TessarinWiFiManager *sharedwifi = nil;
-ScheduleFunction xWiFiManagerClientScheduleWithRunLoop = NULL;
-GetPropertyFunction __mWiFiNetworkGetProperty = NULL;
-CopyPasswordFunction __mWiFiNetworkCopyPassword = NULL;
-CopyCurrentNetworkFunction xWiFiDeviceClientCopyCurrentNetwork = NULL;
-CreateFunction xWiFiManagerClientCreate = NULL;
-CopyDevicesFunction xWiFiManagerClientCopyDevices = NULL;
+WiFiManagerClientScheduleWithRunLoopFunction xWiFiManagerClientScheduleWithRunLoop = NULL;
+WiFiNetworkGetPropertyFunction __mWiFiNetworkGetProperty = NULL;
+WiFiNetworkCopyPasswordFunction __mWiFiNetworkCopyPassword = NULL;
+WiFiDeviceClientCopyCurrentNetworkFunction xWiFiDeviceClientCopyCurrentNetwork = NULL;
+WiFiManagerClientCreateFunction xWiFiManagerClientCreate = NULL;
+WiFiManagerClientCopyDevicesFunction xWiFiManagerClientCopyDevices = NULL;
 
 NSString *stringOrNil(id object) {
   return [object isKindOfClass:[NSString class]] ? object : nil;
@@ -56,13 +47,13 @@ NSArray *arrayFromCopy(CFArrayRef copied) {
 - (instancetype)init {
   if (!(self = [super init])) return nil;
   sharedwifi = self;
-  xWiFiManagerClientScheduleWithRunLoop = (ScheduleFunction)dlsym(RTLD_DEFAULT, "WiFiManagerClientScheduleWithRunLoop");
-  __mWiFiNetworkGetProperty = (GetPropertyFunction)dlsym(RTLD_DEFAULT, "WiFiNetworkGetProperty");
-  __mWiFiNetworkCopyPassword = (CopyPasswordFunction)dlsym(RTLD_DEFAULT, "WiFiNetworkCopyPassword");
-  xWiFiDeviceClientCopyCurrentNetwork = (CopyCurrentNetworkFunction)dlsym(RTLD_DEFAULT, "WiFiDeviceClientCopyCurrentNetwork");
-  xWiFiManagerClientCreate = (CreateFunction)dlsym(RTLD_DEFAULT, "WiFiManagerClientCreate");
-  xWiFiManagerClientCopyDevices = (CopyDevicesFunction)dlsym(RTLD_DEFAULT, "WiFiManagerClientCopyDevices");
-  xWiFiManagerClientCopyNetworks = (CopyNetworksFunction)dlsym(RTLD_DEFAULT, "WiFiManagerClientCopyNetworks");
+  xWiFiManagerClientScheduleWithRunLoop = (WiFiManagerClientScheduleWithRunLoopFunction)dlsym(RTLD_DEFAULT, "WiFiManagerClientScheduleWithRunLoop");
+  __mWiFiNetworkGetProperty = (WiFiNetworkGetPropertyFunction)dlsym(RTLD_DEFAULT, "WiFiNetworkGetProperty");
+  __mWiFiNetworkCopyPassword = (WiFiNetworkCopyPasswordFunction)dlsym(RTLD_DEFAULT, "WiFiNetworkCopyPassword");
+  xWiFiDeviceClientCopyCurrentNetwork = (WiFiDeviceClientCopyCurrentNetworkFunction)dlsym(RTLD_DEFAULT, "WiFiDeviceClientCopyCurrentNetwork");
+  xWiFiManagerClientCreate = (WiFiManagerClientCreateFunction)dlsym(RTLD_DEFAULT, "WiFiManagerClientCreate");
+  xWiFiManagerClientCopyDevices = (WiFiManagerClientCopyDevicesFunction)dlsym(RTLD_DEFAULT, "WiFiManagerClientCopyDevices");
+  xWiFiManagerClientCopyNetworks = (WiFiManagerClientCopyNetworksFunction)dlsym(RTLD_DEFAULT, "WiFiManagerClientCopyNetworks");
   // Without the library there is no client: no devices, no networks, no current network.
   if (xWiFiManagerClientCreate != NULL) WifiManager = xWiFiManagerClientCreate(kCFAllocatorDefault, 1);
   return self;
@@ -70,33 +61,33 @@ NSArray *arrayFromCopy(CFArrayRef copied) {
 
 - (NSArray *)devices {
   if (WifiManager == NULL || xWiFiManagerClientCopyDevices == NULL) return [NSArray array];
-  return arrayFromCopy(xWiFiManagerClientCopyDevices(WifiManager));
+  return arrayFromCopy(xWiFiManagerClientCopyDevices((WiFiManagerClientRef)WifiManager));
 }
 
 - (NSArray *)networks {
   if (WifiManager == NULL || xWiFiManagerClientCopyNetworks == NULL) return [NSArray array];
-  return arrayFromCopy(xWiFiManagerClientCopyNetworks(WifiManager));
+  return arrayFromCopy(xWiFiManagerClientCopyNetworks((WiFiManagerClientRef)WifiManager));
 }
 
 - (void *)currentNetwork {
   NSArray *devices = [self devices];
   if ([devices count] == 0 || xWiFiDeviceClientCopyCurrentNetwork == NULL) return NULL;
-  return xWiFiDeviceClientCopyCurrentNetwork((void *)[devices objectAtIndex:0]);
+  return xWiFiDeviceClientCopyCurrentNetwork((WiFiDeviceClientRef)[devices objectAtIndex:0]);
 }
 
 - (NSString *)ssidForNetwork:(void *)network {
   if (network == NULL || __mWiFiNetworkGetProperty == NULL) return nil;
-  return stringOrNil((id)__mWiFiNetworkGetProperty(network, (CFStringRef)@"SSID_STR"));
+  return stringOrNil((id)__mWiFiNetworkGetProperty((WiFiNetworkRef)network, (CFStringRef)@"SSID_STR"));
 }
 
 - (NSString *)bssidForNetwork:(void *)network {
   if (network == NULL || __mWiFiNetworkGetProperty == NULL) return nil;
-  return stringOrNil((id)__mWiFiNetworkGetProperty(network, (CFStringRef)@"BSSID"));
+  return stringOrNil((id)__mWiFiNetworkGetProperty((WiFiNetworkRef)network, (CFStringRef)@"BSSID"));
 }
 
 - (NSString *)passwordForNetwork:(void *)network {
   if (network == NULL || __mWiFiNetworkCopyPassword == NULL) return nil;
-  CFStringRef password = __mWiFiNetworkCopyPassword(network);
+  CFStringRef password = __mWiFiNetworkCopyPassword((WiFiNetworkRef)network);
   if (password == NULL) return nil;
   NSString *copy = [NSString stringWithString:(NSString *)password];
   CFRelease(password);
@@ -123,13 +114,13 @@ NSArray *arrayFromCopy(CFArrayRef copied) {
 - (NSMutableArray *)networksArrayAsDictionaries {
   NSMutableArray *result = [NSMutableArray array];
   NSArray *networks = [self networks];
-  CopyRecordFunction copyRecord = (CopyRecordFunction)dlsym(RTLD_DEFAULT, "WiFiNetworkCopyRecord");
+  WiFiNetworkCopyRecordFunction copyRecord = (WiFiNetworkCopyRecordFunction)dlsym(RTLD_DEFAULT, "WiFiNetworkCopyRecord");
 
   std::vector<wifi::PlatformNetwork> known;
   for (id network in networks) {
     wifi::PlatformNetwork facts;
     if (copyRecord != NULL) {
-      NSDictionary *record = [(NSDictionary *)copyRecord((void *)network) autorelease];
+      NSDictionary *record = [(NSDictionary *)copyRecord((WiFiNetworkRef)network) autorelease];
       if ([record isKindOfClass:[NSDictionary class]]) {
         facts.ssid = text(stringOrNil([record objectForKey:@"SSID_STR"]));
         id joined = [record objectForKey:@"lastJoined"];
