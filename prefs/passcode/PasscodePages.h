@@ -4,22 +4,6 @@
 #import "core/PlatformAPI.h"
 #include "passcode/PasscodeFlow.hpp"
 
-#if TESSARIN_SIMULATED
-// Private members of the Settings app and UIKit that the device build
-// declares in its own private header.
-@interface UIApplication (TessarinPasscodeSettingsApp)
-- (UINavigationController *)rootController;
-@end
-
-@interface UINavigationController (TessarinPasscodeSettingsApp)
-- (PSListController *)rootListController;
-@end
-
-@interface UIDevice (TessarinPasscodeSound)
-- (void)_playSystemSound:(unsigned int)soundID;
-@end
-#endif
-
 // The text in its table (the bundle's own strings or the Accessibility
 // bundle's Guided Access table), its default when missing; "" for kNone.
 NSString *passcodePageText(const tessarin::passcode::Text &text);

@@ -35,6 +35,8 @@ long long devicePasscodeLength(void) {
     NSDictionary *record = [manager _privatePasscodeDictWithOutError:NULL];
     id outer = [record isKindOfClass:[NSDictionary class]] ? [record objectForKey:@"characteristics"] : nil;
     id inner = [outer isKindOfClass:[NSDictionary class]] ? [outer objectForKey:@"characteristics"] : nil;
+    // Records that hold the characteristics one level up are read there.
+    if (![inner isKindOfClass:[NSDictionary class]]) inner = outer;
     id first = [inner isKindOfClass:[NSDictionary class]] ? [inner objectForKey:@"1"] : nil;
     characteristics = first != nil ? first : inner;
   } else if ([manager respondsToSelector:@selector(_passcodeCharacteristics)]) {

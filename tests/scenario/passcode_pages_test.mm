@@ -306,7 +306,7 @@ TEST_F(PasscodePagesTest, CancelLeavesThePasscodeUntouched)
     unsigned changes = SimNotifyPostCount(kPrefsChanged);
     for (SEL action : {@selector(addPassword), @selector(changePassword), @selector(removePassword)}) {
         id page = OpenModal(settings, action);
-        Type(page, @"4321");
+        Type(page, @"1111");  // a first entry on the add page, a wrong one on the others
         [page cancelAndCleanup];
         SimRunLoopRunFor(0.6);
         EXPECT_EQ([settings presentedViewController], nil) << sel_getName(action);
@@ -345,7 +345,7 @@ TEST_F(PasscodePagesTest, WithNothingStoredRemoveAndChangeCanOnlyShake)
     PSListController *settings = OpenSettingsPage();
     for (SEL action : {@selector(removePassword), @selector(changePassword)}) {
         id page = OpenModal(settings, action);
-        for (NSString *entry in @[ @"0000", @"", @"1234" ]) {
+        for (NSString *entry in @[ @"0000", @"1234", @"9876" ]) {
             Type(page, entry);
             EXPECT_NSEQ(Warning(page), @"Wrong passcode. Try again.") << sel_getName(action);
         }
@@ -423,21 +423,23 @@ protected:
     NSUInteger StackDepth() { return [[RootNavigation() viewControllers] count]; }
 };
 
-TEST_F(DevicePasscodeTest, SixDigitPasscodeGivesSixBoxesOthersFour)
+// The passcode manager is one object per process, so each length gets its own test.
+TEST_F(DevicePasscodeTest, SixDigitPasscodeGivesSixBoxes)
 {
-    const struct {
-        NSString *passcode;
-        NSUInteger boxes;
-    } cases[] = {{@"123456", 6}, {@"1234", 4}};
-    for (const auto &c : cases) {
-        Start(SIM_DEFAULT_PROFILE, ^(NSMutableDictionary *p) { [p setObject:c.passcode forKey:@"devicePasscode"]; });
-        id page = OpenDevicePage(@"TessarinUserPasscodeController");
-        EXPECT_EQ([[page passcodeField] numberOfEntryFields], c.boxes) << [c.passcode UTF8String];
-        EXPECT_NSEQ(Prompt(page), @"Enter your passcode");
-        EXPECT_NSEQ([page title], @"Enter Passcode");
-        [page cancelAndCleanup];
-        SimRunLoopRunFor(0.6);
-    }
+    Start(SIM_DEFAULT_PROFILE, ^(NSMutableDictionary *p) { [p setObject:@"123456" forKey:@"devicePasscode"]; });
+    id page = OpenDevicePage(@"TessarinUserPasscodeController");
+    EXPECT_EQ([[page passcodeField] numberOfEntryFields], 6u);
+    EXPECT_NSEQ(Prompt(page), @"Enter your passcode");
+    EXPECT_NSEQ([page title], @"Enter Passcode");
+    // Still centred on the page after the change.
+    EXPECT_DOUBLE_EQ([[page passcodeField] center].x, [[page view] center].x);
+}
+
+TEST_F(DevicePasscodeTest, FourDigitPasscodeKeepsFourBoxes)
+{
+    Start(SIM_DEFAULT_PROFILE, ^(NSMutableDictionary *p) { [p setObject:@"2580" forKey:@"devicePasscode"]; });
+    id page = OpenDevicePage(@"TessarinUserPasscodeController");
+    EXPECT_EQ([[page passcodeField] numberOfEntryFields], 4u);
 }
 
 TEST_F(DevicePasscodeTest, RightPasscodeClosesThePageAndPushesTheFaceIDPage)
