@@ -505,3 +505,62 @@ TEST_F(DevicePasscodeTest, WithoutSystemPagesTheEntryIsRefused)
     SimRunLoopRunFor(kFlowSettle);
     EXPECT_EQ(StackDepth(), depth);
 }
+
+// MARK: - Look of the entry page
+
+namespace {
+
+void expectBackground(id page, int red, int green, int blue)
+{
+    CGFloat r = 0, g = 0, b = 0, a = 0;
+    ASSERT_TRUE([[[page view] backgroundColor] getRed:&r green:&g blue:&b alpha:&a]);
+    EXPECT_NEAR(r * 255.0, red, 0.01);
+    EXPECT_NEAR(g * 255.0, green, 0.01);
+    EXPECT_NEAR(b * 255.0, blue, 0.01);
+    EXPECT_EQ(a, 1.0);
+}
+
+}  // namespace
+
+TEST_F(PasscodePagesTest, DarkDevicesGetAMidGreyPageAndLightOnesAPaleOne)
+{
+    Start();  // a dark profile
+    id page = OpenModal(OpenSettingsPage(), @selector(addPassword));
+    expectBackground(page, 137, 137, 142);
+    EXPECT_EQ([page supportedInterfaceOrientations], 2u);
+    CGRect field = [[page passcodeField] frame];
+    EXPECT_DOUBLE_EQ(field.size.width, 147.0);
+    EXPECT_DOUBLE_EQ(field.origin.y, 157.0);
+    EXPECT_DOUBLE_EQ([[page passcodeField] center].x, [[page view] center].x);
+}
+
+TEST_F(PasscodePagesTest, LightDevicesGetAPalePage)
+{
+    Start(SIM_DEFAULT_PROFILE, ^(NSMutableDictionary *p) { [p setObject:@(NO) forKey:@"darkMode"]; });
+    id page = OpenModal(OpenSettingsPage(), @selector(addPassword));
+    expectBackground(page, 239, 239, 244);
+}
+
+TEST_F(PasscodePagesTest, SlideAndShakeAnimateForTheirDurations)
+{
+    Start();
+    id page = OpenModal(OpenSettingsPage(), @selector(addPassword));
+    NSUInteger before = [SimRecordedViewAnimations() count];
+    Type(page, @"1234");  // slide
+    Type(page, @"4321");  // shake
+    NSArray *animations = SimRecordedViewAnimations();
+    ASSERT_EQ([animations count], before + 7);
+    const double durations[] = {0.1, 0.2, 0.1, 0.1, 0.1, 0.1, 0.1};
+    for (NSUInteger i = 0; i < 7; i++) {
+        NSDictionary *animation = [animations objectAtIndex:before + i];
+        EXPECT_NEAR([[animation objectForKey:@"duration"] doubleValue], durations[i], 1e-9) << i;
+        EXPECT_EQ([[animation objectForKey:@"delay"] doubleValue], 0.0) << i;
+    }
+    EXPECT_EQ([[[animations objectAtIndex:before] objectForKey:@"options"] unsignedIntegerValue],
+              (NSUInteger)UIViewAnimationOptionCurveEaseIn);
+    EXPECT_EQ([[[animations objectAtIndex:before + 1] objectForKey:@"options"] unsignedIntegerValue],
+              (NSUInteger)UIViewAnimationOptionCurveEaseOut);
+    // The shake ends where it started.
+    EXPECT_DOUBLE_EQ([[page passcodeField] center].x, [[page view] center].x);
+    EXPECT_DOUBLE_EQ([[page label] center].x, [[page view] center].x);
+}
