@@ -128,12 +128,18 @@ TEST_F(NotifyTest, StalePeersAreDropped)
     EXPECT_NE(access(stale.c_str(), F_OK), 0);
 }
 
-TEST_F(NotifyTest, SwitchingDevicesDropsRegistrations)
+TEST_F(NotifyTest, SwitchingDevicesKeepsStateTokensAndDropsHandlers)
 {
-    int token;
+    int token, handled;
     notify_register_check("test.a", &token);
+    notify_set_state(token, 7);
+    notify_register_dispatch("test.a", &handled, dispatch_get_main_queue(), ^(int) {});
     UseDevice();
-    EXPECT_FALSE(notify_is_valid_token(token));
+    EXPECT_TRUE(notify_is_valid_token(token));
+    EXPECT_FALSE(notify_is_valid_token(handled));
+    uint64_t state = 1;
+    EXPECT_EQ(notify_get_state(token, &state), (uint32_t)NOTIFY_STATUS_OK);
+    EXPECT_EQ(state, 0u);  // the new device's state, not the old one's
     EXPECT_EQ(SimNotifyPostCount("test.changed"), 0u);
 }
 

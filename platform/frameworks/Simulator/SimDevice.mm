@@ -3,6 +3,7 @@
 
 #import <Foundation/Foundation.h>
 #include <Simulator/Simulator.h>
+#include <Simulator/SimSystemFiles.h>
 #include "SimInternal.h"
 
 #include <errno.h>
@@ -178,6 +179,7 @@ int SimDeviceCreate(const char *root, const char *profile)
         if ([files isKindOfClass:[NSArray class]]) {
             for (NSUInteger i = 0; i < [files count]; i++) writeEntry(rootPath, [files objectAtIndex:i]);
         }
+        ok = ok && SimInstallSystemFiles(root) == 0;
         if (ok) result = 0;
         else errno = EIO;
     }

@@ -356,9 +356,17 @@ bool tokenName(int token, std::string *name)
 void SimNotifyDeviceChanged(void)
 {
     pthread_mutex_lock(&gNotifyLock);
-    for (auto &entry : tokens())
-        if (entry.second.handler) Block_release(entry.second.handler);
-    tokens().clear();
+    // Plain tokens only name a state, which every device has: they stay valid, as a
+    // process's tokens do on a device. Tokens that deliver posts belong to the old device.
+    for (auto it = tokens().begin(); it != tokens().end();) {
+        if (it->second.handler) {
+            Block_release(it->second.handler);
+            it = tokens().erase(it);
+        } else {
+            it->second.lastSeenCount = UINT64_MAX;
+            ++it;
+        }
+    }
     localState().clear();
     localCounts().clear();
     gSocket = -1;  // the receiving thread sees it and closes its socket
