@@ -10,8 +10,15 @@ void BundleTest::TearDown() {
 void BundleTest::StartDevice(const char *profile, bool withSpringBoard, void (^edit)(NSMutableDictionary *)) {
     if (edit != nil) {
         UseDevice(profile);
-        NSMutableDictionary *changed = [[SimDeviceProfile() mutableCopy] autorelease];
+        NSDictionary *completed = SimDeviceProfile();
+        NSMutableDictionary *changed = [[completed mutableCopy] autorelease];
         edit(changed);
+        // What the simulator derived from the profile is derived again from the edited one,
+        // unless the edit set it itself.
+        id derived = [changed objectForKey:@"passcodeCharacteristics"];
+        if (derived != nil && [derived isEqual:[completed objectForKey:@"passcodeCharacteristics"]]) {
+            [changed removeObjectForKey:@"passcodeCharacteristics"];
+        }
         NSString *path = [NSString stringWithFormat:@"%s.profile.plist", Root().c_str()];
         ASSERT_TRUE([changed writeToFile:path atomically:YES]);
         UseDevice([path fileSystemRepresentation]);

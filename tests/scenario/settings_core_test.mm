@@ -1,10 +1,12 @@
 // The bundle's settings core as loaded into Settings: the preference store and its
 // change signal, the log files, the hardware tests and the Wi-Fi manager.
 #include <CoreFoundation/CoreFoundation.h>
+#import <UIKit/UIKit.h>
 #include <notify.h>
 #include <unistd.h>
 #import "BundleFixture.h"
 #include "ChildProcess.h"
+#import "core/NSArray+crv.h"
 
 namespace {
 
@@ -172,4 +174,44 @@ TEST_F(SettingsCoreTest, WiFiManagerListsNetworksAndTrustsByBssid) {
     EXPECT_TRUE(trusted());
     set(@[ @{@"bssid" : @"f0:9f:c2:44:55:66", @"ssid" : @"Home Network"} ], "allowedWiFis");
     EXPECT_FALSE(trusted());
+}
+
+@interface CrvAnimal : NSObject
+@end
+@implementation CrvAnimal
+@end
+@interface CrvDog : CrvAnimal
+@end
+@implementation CrvDog
+@end
+
+TEST_F(SettingsCoreTest, ObjectOfClassMatchesTheExactClassOnly) {
+    StartDevice(SIM_DEFAULT_PROFILE, /*withSpringBoard=*/false);
+    CrvDog *dog = [[[CrvDog alloc] init] autorelease];
+    CrvAnimal *animal = [[[CrvAnimal alloc] init] autorelease];
+    NSArray *pets = @[ dog, animal ];
+    EXPECT_EQ([pets objectOfClass:[CrvAnimal class]], animal);  // the dog is only a kind of animal
+    EXPECT_EQ([pets objectOfClass:[CrvDog class]], dog);
+    EXPECT_EQ([pets objectOfClass:[NSObject class]], nil);
+    EXPECT_EQ([@[] objectOfClass:[CrvDog class]], nil);
+}
+
+TEST_F(SettingsCoreTest, AlertHelperReturnsAtOnceAndPresentsOnTheMainQueue) {
+    StartDevice(SIM_DEFAULT_PROFILE, /*withSpringBoard=*/false);
+    using ShowAlert = void (*)(NSString *, NSString *, NSArray *, UIViewController *, UIAlertControllerStyle);
+    auto show = BundleSymbol<ShowAlert>("showAlertWithTitleAndMessageAndAlertActionsFromViewControllerWithStyle");
+    UIViewController *page = [[[UIViewController alloc] init] autorelease];
+    NSArray *actions = @[ [UIAlertAction actionWithTitle:@"Later" style:UIAlertActionStyleCancel handler:nil],
+                          [UIAlertAction actionWithTitle:@"Now" style:UIAlertActionStyleDefault handler:nil] ];
+    show(@"Tessarin", @"Message", actions, page, UIAlertControllerStyleAlert);
+    EXPECT_EQ([page presentedViewController], nil);
+    ASSERT_TRUE(SimRunLoopRunUntil(^BOOL { return [page presentedViewController] != nil; }, 5.0));
+    UIAlertController *alert = (UIAlertController *)[page presentedViewController];
+    ASSERT_TRUE([alert isKindOfClass:[UIAlertController class]]);
+    EXPECT_NSEQ([alert title], @"Tessarin");
+    EXPECT_NSEQ([alert message], @"Message");
+    EXPECT_EQ([alert preferredStyle], UIAlertControllerStyleAlert);
+    ASSERT_EQ([[alert actions] count], 2u);
+    EXPECT_NSEQ([[[alert actions] objectAtIndex:0] title], @"Later");
+    EXPECT_NSEQ([[[alert actions] objectAtIndex:1] title], @"Now");
 }
