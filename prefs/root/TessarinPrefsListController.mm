@@ -1,0 +1,484 @@
+#import "root/TessarinPrefsListController.h"
+#import "core/Alerts.h"
+#import "core/BundleLookup.h"
+#import "core/Hardware.h"
+#import "core/Paths.h"
+#import "core/PreferenceStore.h"
+#import "core/VersionFlags.h"
+#import "root/TessarinRootViews.h"
+#import "wifi/TessarinWiFiManager.h"
+#include "core/Names.hpp"
+#include "root/RootBehaviour.hpp"
+#include "root/RootRows.hpp"
+
+#include <optional>
+#include <string>
+#include <vector>
+
+uint32_t cachedLibraryVersion = 0;
+BOOL springBoardEmergency = NO;
+
+namespace {
+
+using namespace tessarin::root;
+
+// The root page that last built its rows; not retained, cleared when it goes away.
+TessarinPrefsListController *sharedRootPage = nil;
+
+NSString *const kCatalogueURL = @"https://corvane.example/apps";
+
+NSString *string(std::string_view text) {
+  return [[[NSString alloc] initWithBytes:text.data() length:text.size() encoding:NSUTF8StringEncoding] autorelease];
+}
+
+NSString *string(const std::string &text) { return string(std::string_view(text)); }
+
+std::string stdString(NSString *text) {
+  const char *bytes = [text UTF8String];
+  return bytes != NULL ? std::string(bytes) : std::string();
+}
+
+NSDictionary *dictionaryOrNil(id object) { return [object isKindOfClass:[NSDictionary class]] ? object : nil; }
+
+// A request to SpringBoard through the product's centre; nil without a (dictionary) reply.
+NSDictionary *askSpringBoard(const char *message) {
+  Class centerClass = NSClassFromString(@"CPDistributedMessagingCenter");
+  CPDistributedMessagingCenter *center = [centerClass centerNamed:@(tessarin::kCenterName)];
+  if (center == nil) return nil;
+  return dictionaryOrNil([center sendMessageAndReceiveReplyName:@(message) userInfo:nil]);
+}
+
+std::optional<long long> integerEntry(NSDictionary *reply, NSString *key) {
+  id value = [reply objectForKey:key];
+  if (![value respondsToSelector:@selector(longLongValue)]) return std::nullopt;
+  return [value longLongValue];
+}
+
+BOOL productPasscodeStored(void) { return prefsValueForKey("passcode") != nil; }
+
+// The device passcode's characteristics from the passcode manager; nothing when the
+// device has no passcode (or the manager is missing).
+std::optional<PasscodeCharacteristics> devicePasscodeCharacteristics(void) {
+  Class managerClass = NSClassFromString(@"MCPasscodeManager");
+  MCPasscodeManager *manager = [managerClass sharedManager];
+  if (manager == nil) return std::nullopt;
+  NSDictionary *characteristics = nil;
+  if ([manager respondsToSelector:@selector(_privatePasscodeDictWithOutError:)]) {
+    NSDictionary *record = dictionaryOrNil([manager _privatePasscodeDictWithOutError:NULL]);
+    characteristics = dictionaryOrNil([record objectForKey:@"characteristics"]);
+    NSDictionary *first = dictionaryOrNil([characteristics objectForKey:@"1"]);
+    if (first != nil) characteristics = first;
+  } else if ([manager respondsToSelector:@selector(_passcodeCharacteristics)]) {
+    characteristics = dictionaryOrNil([manager _passcodeCharacteristics]);
+  }
+  if (characteristics == nil) return std::nullopt;
+  PasscodeCharacteristics result;
+  id allDigits = [characteristics objectForKey:@"allDigits"];
+  id hasAlpha = [characteristics objectForKey:@"hasAlpha"];
+  result.allDigits = [allDigits respondsToSelector:@selector(boolValue)] && [allDigits boolValue];
+  result.hasAlpha = [hasAlpha respondsToSelector:@selector(boolValue)] && [hasAlpha boolValue];
+  result.length = integerEntry(characteristics, @"length").value_or(0);
+  return result;
+}
+
+bool classExists(std::string_view name) { return NSClassFromString(string(name)) != Nil; }
+
+FileProbe deviceFileProbe(void) {
+  FileProbe probe;
+  probe.exists = [](std::string_view path) { return deviceFileExists(string(path)) ? true : false; };
+  probe.jailRoot = [](std::string_view path) { return stdString(jbroot(string(path))); };
+  return probe;
+}
+
+BOOL isPad(void) { return [[UIDevice currentDevice] userInterfaceIdiom] == UIUserInterfaceIdiomPad; }
+
+// The Settings app's root navigation controller, when the application has one.
+UINavigationController *settingsRootController(void) {
+  UIApplication *application = [UIApplication sharedApplication];
+  if (![application respondsToSelector:@selector(rootController)]) return nil;
+  id controller = [application performSelector:@selector(rootController)];
+  return [controller isKindOfClass:[UINavigationController class]] ? controller : nil;
+}
+
+long long deviceCornerRadius(void) {
+  auto copyAnswer = (MGCopyAnswerFunction)dlsym(RTLD_DEFAULT, "MGCopyAnswer");
+  if (copyAnswer == NULL) return 0;
+  CFPropertyListRef answer = copyAnswer(CFSTR("DeviceCornerRadius"));
+  if (answer == NULL) return 0;
+  id value = (id)answer;
+  long long radius = [value respondsToSelector:@selector(longLongValue)] ? [value longLongValue] : 0;
+  CFRelease(answer);
+  return radius;
+}
+
+// Whether SpringBoard's "apps" answer lists the application.
+BOOL appsContain(id apps, NSString *bundleIdentifier) {
+  if ([apps isKindOfClass:[NSDictionary class]]) return [apps objectForKey:bundleIdentifier] != nil;
+  if (![apps isKindOfClass:[NSArray class]]) return NO;
+  for (id app in (NSArray *)apps) {
+    if ([app isEqual:bundleIdentifier]) return YES;
+    if ([app isKindOfClass:[NSDictionary class]] &&
+        [[app objectForKey:@"bundleIdentifier"] isEqual:bundleIdentifier])
+      return YES;
+  }
+  return NO;
+}
+
+PSSpecifier *groupWithFooter(NSString *footer) {
+  PSSpecifier *group = nil;
+  if ([PSSpecifier respondsToSelector:@selector(groupSpecifierWithHeader:footer:)]) {
+    group = [PSSpecifier groupSpecifierWithHeader:nil footer:footer];
+  } else {
+    group = [PSSpecifier groupSpecifierWithName:nil];
+    [group setProperty:footer forKey:@"footerText"];
+  }
+  return group;
+}
+
+void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
+  NSString *text = string(identifier);
+  [specifier setIdentifier:text];
+  [specifier setProperty:text forKey:@"id"];
+}
+
+}  // namespace
+
+@interface TessarinPrefsListController ()
+- (void)performEffect:(Effect)effect;
+- (void)setUpDeviceAuthenticationFrom:(SetupOrigin)origin;
+- (void)pushPasscodeSettings;
+- (void)presentUserPasscodeControllerNamed:(std::string_view)className;
+- (void)showAlert:(const Alert &)alert from:(UIViewController *)presenter;
+@end
+
+@implementation TessarinPrefsListController
+
+@synthesize headerView = _headerView;
+@synthesize versionLabel = _versionLabel;
+@synthesize installedApps = _installedApps;
+
++ (instancetype)sharedInstance {
+  return sharedRootPage;
+}
+
+- (void)dealloc {
+  if (sharedRootPage == self) sharedRootPage = nil;
+  [_headerView release];
+  [_versionLabel release];
+  [_installedApps release];
+  [super dealloc];
+}
+
+#pragma mark - Rows
+
+- (NSArray *)specifiers {
+  sharedRootPage = self;
+  if (_specifiers != nil) return _specifiers;
+
+  // SpringBoard's half must answer, on a supported system, before anything else shows.
+  if (cachedLibraryVersion == 0) {
+    std::optional<long long> version = integerEntry(askSpringBoard(tessarin::message::kLibraryVersion), @"dlbv");
+    cachedLibraryVersion = (uint32_t)version.value_or(0);
+  }
+  const bool supported = tessarin::isSupportedSystem(stdString(systemVersionString()));
+  if (std::optional<std::string_view> footer = singleGroupFooter(cachedLibraryVersion, supported)) {
+    PSSpecifier *group = [PSSpecifier groupSpecifierWithName:nil];
+    [group setProperty:string(*footer) forKey:@"footerText"];
+    _specifiers = [[NSMutableArray alloc] initWithObjects:group, nil];
+    return _specifiers;
+  }
+
+  RootPageFacts facts;
+  facts.biometricsSet = biometricsSet(integerEntry(askSpringBoard(tessarin::message::kBiometricsEnrolled), @"idsn"));
+  facts.productPasscodeSet = productPasscodeStored();
+
+  NSArray *loaded = [self loadSpecifiersFromPlistName:string(kRowsPlistName) target:self];
+  if (![loaded isKindOfClass:[NSArray class]]) loaded = [NSArray array];
+  NSBundle *bundle = tessarinBundle();
+  std::vector<std::string> loadedIds;
+  for (PSSpecifier *specifier in loaded) {
+    NSString *identifier = [specifier identifier];
+    if (identifier != nil && bundle != nil)
+      [specifier setName:[bundle localizedStringForKey:identifier value:[specifier name] table:nil]];
+    loadedIds.push_back(stdString(identifier));
+  }
+
+  // Asked again on every build: a SpringBoard that went away since the first answer is told.
+  NSDictionary *again = askSpringBoard(tessarin::message::kLibraryVersion);
+  if ([again objectForKey:@"dlbv"] == nil) {
+    springBoardEmergency = YES;
+    [self showAlert:noSpringBoardAlert() from:self];
+  }
+
+  facts.gracePeriod = gracePeriodIsActive();
+  facts.trustedNetwork = [[TessarinWiFiManager sharedInstance] isOnTrustedNetwork];
+  const BOOL sensor = iPhone64Bit();
+  facts.device = deviceFacts(sensor, hasPearl(), isPad(), systemVersion);
+  if (sensor) facts.devicePasscode = devicePasscodeCharacteristics();
+
+  const RootRowsPlan plan = planRootRows(loadedIds, facts, deviceFileProbe(), classExists);
+
+  NSMutableArray *rows = [NSMutableArray array];
+  for (const PlannedRow &planned : plan.rows) {
+    PSSpecifier *row = nil;
+    switch (planned.kind) {
+      case PlannedRowKind::Loaded:
+        row = [loaded objectAtIndex:planned.loadedIndex];
+        if (planned.action == RowAction::KeepWithoutFooter) [row removePropertyForKey:@"footerText"];
+        if (planned.action == RowAction::KeepAsResetTarget) {
+          TessarinPrefsListController *page = self;
+          [row setProperty:[NSValue value:&page withObjCType:@encode(id)] forKey:@"target"];
+          [row setTarget:self];
+          if ([row buttonAction] == NULL) [row setButtonAction:@selector(resetAllTessarinSettings:)];
+        }
+        break;
+      case PlannedRowKind::WarningGroup:
+        row = [PSSpecifier emptyGroupSpecifier];
+        setIdentifier(row, kTrustedWarningGroupId);
+        break;
+      case PlannedRowKind::Warning:
+        row = [PSSpecifier preferenceSpecifierNamed:string(plan.warning->title)
+                                             target:self
+                                                set:NULL
+                                                get:NULL
+                                             detail:Nil
+                                               cell:(PSCellType)kStaticTextCellType
+                                               edit:Nil];
+        [row setProperty:[TessarinTrustedWiFiWarningCell class] forKey:@"cellClass"];
+        [row setProperty:@(plan.warning->height) forKey:@"height"];
+        setIdentifier(row, kTrustedWarningId);
+        break;
+      case PlannedRowKind::DeviceAuthGroup:
+      case PlannedRowKind::CreditsGroup:
+        row = [PSSpecifier emptyGroupSpecifier];
+        break;
+      case PlannedRowKind::DeviceAuth: {
+        const DeviceAuthRow &auth = *plan.deviceAuth;
+        Class detail = auth.detailClass.empty() ? Nil : NSClassFromString(string(auth.detailClass));
+        row = [PSSpecifier preferenceSpecifierNamed:string(auth.name)
+                                             target:self
+                                                set:NULL
+                                                get:NULL
+                                             detail:detail
+                                               cell:(PSCellType)kDeviceAuthCellType
+                                               edit:Nil];
+        if (!auth.loadAction.empty()) [row setControllerLoadAction:NSSelectorFromString(string(auth.loadAction))];
+        break;
+      }
+      case PlannedRowKind::Credits:
+        row = [PSSpecifier preferenceSpecifierNamed:string(kCreditsText)
+                                             target:self
+                                                set:NULL
+                                                get:NULL
+                                             detail:Nil
+                                               cell:(PSCellType)kCreditsCellType
+                                               edit:Nil];
+        [row setProperty:[TessarinCreditsCell class] forKey:@"cellClass"];
+        [row setProperty:@(kCreditsAlignment) forKey:@"alignment"];
+        break;
+      case PlannedRowKind::MoreAppsGroup:
+        row = groupWithFooter(string(kMoreAppsFooter));
+        [row setTarget:self];
+        [row setButtonAction:NSSelectorFromString(string(kMoreAppsAction))];
+        [row setProperty:string(kMoreAppsFooterCellClass) forKey:@"footerCellClass"];
+        [row setProperty:@(kMoreAppsHeight) forKey:@"height"];
+        // The footer view shows this text.
+        [row setProperty:string(kMoreAppsFooter) forKey:string(tessarin::root::label_view::kTextProperty)];
+        break;
+    }
+    if (row == nil) continue;
+    if (planned.disabled) [row setProperty:@(NO) forKey:@"enabled"];
+    [rows addObject:row];
+  }
+
+  // Read as SpringBoard reads it; the rows are the same either way.
+  (void)prefsValueForKey("Enabled");
+
+  _specifiers = [rows mutableCopy];
+  return _specifiers;
+}
+
+- (void)setPreferenceValue:(id)value specifier:(PSSpecifier *)specifier {
+  [super setPreferenceValue:value specifier:specifier];
+  if ([[specifier identifier] isEqualToString:string(kKeepSessionId)]) [self reloadSpecifiers];
+}
+
+#pragma mark - View
+
+- (void)loadView {
+  [super loadView];
+
+  NSDictionary *idsnReply = askSpringBoard(tessarin::message::kBiometricsEnrolled);
+  NSDictionary *appsReply = askSpringBoard(tessarin::message::kApplications);
+  [self setInstalledApps:[appsReply objectForKey:@"apps"]];
+
+  NSString *noPasscodeSet = localizedString(string(kNoPasscodeSetKey), string(kNoPasscodeSetDefault));
+  NSString *no = localizedString(string(kNoKey), string(kNoDefault));
+  const std::string noPasscodeSetText = stdString(noPasscodeSet);
+  const std::string noText = stdString(no);
+  FirstRunFacts facts;
+  facts.idsnReplied = idsnReply != nil;
+  facts.idsnValue = integerEntry(idsnReply, @"idsn").value_or(0);
+  facts.appsPresent = [self installedApps] != nil;
+  facts.productPasscodeStored = productPasscodeStored();
+  facts.biometricSensor = iPhone64Bit();
+  facts.faceID = hasPearl();
+  facts.noPasscodeSetText = noPasscodeSetText;
+  facts.noText = noText;
+  if (std::optional<Alert> prompt = firstRunPrompt(facts)) [self showAlert:*prompt from:self];
+
+  const CGFloat width = [[self view] frame].size.width;
+  const Rect headerFrame = header::headerFrame(width);
+  const Rect labelFrame = header::versionLabelFrame(width);
+  UIView *headerView =
+      [[UIView alloc] initWithFrame:CGRectMake(headerFrame.x, headerFrame.y, headerFrame.width, headerFrame.height)];
+  [headerView setClipsToBounds:header::kClipsToBounds];
+  UILabel *label =
+      [[UILabel alloc] initWithFrame:CGRectMake(labelFrame.x, labelFrame.y, labelFrame.width, labelFrame.height)];
+  [label setFont:[UIFont systemFontOfSize:header::kFontSize]];
+  [label setTextAlignment:(NSTextAlignment)header::kAlignment];
+  [label setTextColor:[UIColor lightGrayColor]];
+  const std::string version = versionText(cachedLibraryVersion);
+  if (!version.empty()) [label setText:string(version)];
+  [headerView addSubview:label];
+  [self setHeaderView:headerView];
+  [self setVersionLabel:label];
+  [[self table] setTableHeaderView:headerView];
+  [label release];
+  [headerView release];
+}
+
+- (void)viewDidLayoutSubviews {
+  [super viewDidLayoutSubviews];
+  const Rect frame = header::versionLabelFrame([[self view] frame].size.width);
+  [_versionLabel setFrame:CGRectMake(frame.x, frame.y, frame.width, frame.height)];
+}
+
+- (void)viewDidAppear:(BOOL)animated {
+  [super viewDidAppear:animated];
+}
+
+#pragma mark - Actions
+
+- (void)resetAllTessarinSettings:(PSSpecifier *)specifier {
+  [self showAlert:resetQuestionAlert() from:self];
+}
+
+- (void)loadUserPasswordController {
+  [self presentUserPasscodeControllerNamed:kUserPasscodeControllerClass];
+}
+
+- (void)loadUserComplexPasswordController {
+  [self presentUserPasscodeControllerNamed:kUserComplexPasscodeControllerClass];
+}
+
+- (void)infoTapped:(id)sender {
+  [[UIApplication sharedApplication] openURL:[NSURL URLWithString:kCatalogueURL]];
+}
+
+- (void)alertView:(id)alertView clickedButtonAtIndex:(NSInteger)buttonIndex {
+  const Effect effect = alertViewButtonEffect(iPhone64Bit(), buttonIndex);
+  if (effect == Effect::SetUpDeviceAuthentication)
+    [self setUpDeviceAuthenticationFrom:SetupOrigin::AlertViewButton];
+  else
+    [self performEffect:effect];
+}
+
+#pragma mark - Helpers
+
+- (void)showAlert:(const Alert &)alert from:(UIViewController *)presenter {
+  NSMutableArray *actions = [NSMutableArray array];
+  for (const AlertButton &button : alert.buttons) {
+    const Effect effect = button.effect;
+    void (^handler)(UIAlertAction *) = nil;
+    if (effect != Effect::Nothing) {
+      handler = ^(UIAlertAction *action) {
+        [self performEffect:effect];
+      };
+    }
+    UIAlertActionStyle style =
+        button.style == ActionStyle::Cancel ? UIAlertActionStyleCancel : UIAlertActionStyleDefault;
+    [actions addObject:[UIAlertAction actionWithTitle:string(button.title) style:style handler:handler]];
+  }
+  showAlertWithTitleAndMessageAndAlertActionsFromViewControllerWithStyle(
+      string(alert.title), string(alert.message), actions, presenter, UIAlertControllerStyleAlert);
+}
+
+- (void)performEffect:(Effect)effect {
+  switch (effect) {
+    case Effect::Nothing:
+      break;
+    case Effect::SetUpDeviceAuthentication:
+      dispatch_async(dispatch_get_main_queue(), ^{
+        [self setUpDeviceAuthenticationFrom:SetupOrigin::Prompt];
+      });
+      break;
+    case Effect::PushPasscodeSettings:
+      dispatch_async(dispatch_get_main_queue(), ^{
+        [self pushPasscodeSettings];
+      });
+      break;
+    case Effect::ResetAllSettings:
+      resetAllPreferences();
+      [self showAlert:resetDoneAlert() from:self];
+      break;
+    case Effect::LeaveProductSettings: {
+      UIViewController *parent = [[self navigationController] parentViewController];
+      if ([parent respondsToSelector:@selector(popViewControllerAnimated:)])
+        [(UINavigationController *)parent popViewControllerAnimated:YES];
+      break;
+    }
+  }
+}
+
+- (void)pushPasscodeSettings {
+  Class pageClass = NSClassFromString(string(kPasscodeSettingsControllerClass));
+  UINavigationController *root = settingsRootController();
+  if (pageClass == Nil || root == nil) return;
+  UIViewController *page = [[pageClass alloc] init];
+  [root pushViewController:page animated:YES];
+  [page release];
+}
+
+- (void)presentUserPasscodeControllerNamed:(std::string_view)className {
+  Class pageClass = NSClassFromString(string(className));
+  if (pageClass == Nil) return;
+  UIViewController *page = [[pageClass alloc] init];
+  UINavigationController *navigation = [[UINavigationController alloc] init];
+  [navigation addChildViewController:page];
+  [self presentViewController:navigation animated:YES completion:nil];
+  [navigation release];
+  [page release];
+}
+
+- (void)setUpDeviceAuthenticationFrom:(SetupOrigin)origin {
+  SetupFacts facts;
+  facts.faceID = hasPearl();
+  facts.devicePasscode = devicePasscodeCharacteristics();
+  facts.iOS14 = systemVersion.iOS14;
+  facts.iOS16 = systemVersion.iOS16;
+  facts.deviceCornerRadius = deviceCornerRadius();
+  facts.loaderAppInstalled = appsContain([self installedApps], string(kLoaderAppId));
+  const SetupDecision decision = setupDecision(facts, origin);
+
+  if (!decision.userPasscodeControllerClass.empty()) {
+    [self presentUserPasscodeControllerNamed:decision.userPasscodeControllerClass];
+    return;
+  }
+
+  UIViewController *systemPage = nil;
+  for (std::string_view className : decision.systemPageClasses) {
+    Class pageClass = NSClassFromString(string(className));
+    if (pageClass == Nil || ![pageClass instancesRespondToSelector:@selector(initForContentSize:)]) continue;
+    systemPage = [[[pageClass alloc] initForContentSize:CGSizeZero] autorelease];
+    if (systemPage != nil) break;
+  }
+  if (decision.pushSystemPage && systemPage != nil) [settingsRootController() pushViewController:systemPage animated:YES];
+  if (decision.notice) {
+    UIViewController *presenter =
+        decision.noticeFrom == NoticeFrom::PushedPage && systemPage != nil ? systemPage : (UIViewController *)self;
+    [self showAlert:*decision.notice from:presenter];
+  }
+}
+
+@end
