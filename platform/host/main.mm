@@ -34,7 +34,10 @@ static void cleanUp(void) {
 static void onSignal(int signo) {
   pid_t pid = gSpringBoard;
   if (pid > 0) kill(pid, SIGTERM);
-  _exit(128 + signo);
+  if (signo == SIGINT || signo == SIGTERM || signo == SIGHUP) _exit(128 + signo);
+  // A crash: SpringBoard is stopped, then the signal does what it would have done.
+  signal(signo, SIG_DFL);
+  raise(signo);
 }
 
 static void usage(FILE *out) {
@@ -118,6 +121,9 @@ int main(int argc, char **argv) {
   signal(SIGINT, onSignal);
   signal(SIGTERM, onSignal);
   signal(SIGHUP, onSignal);
+  signal(SIGSEGV, onSignal);
+  signal(SIGBUS, onSignal);
+  signal(SIGABRT, onSignal);
 
   const char *root = SimDeviceCreateTemporary(profile);
   if (root == NULL) {

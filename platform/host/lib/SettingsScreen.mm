@@ -364,14 +364,9 @@ static NSString *valueText(id value, PSSpecifier *specifier) {
     }
     BOOL enabled = SettingsScreenRowEnabled(specifier);
 
-    SettingsScreenItem *item = [[[SettingsScreenItem alloc] init] autorelease];
-    [item setSpecifier:specifier];
-    [item setController:page];
-    [items addObject:item];
-    NSString *number = [NSString stringWithFormat:@"[%lu]", (unsigned long)[items count]];
     NSString *disabled = enabled ? @"" : @" (disabled)";
 
-    if ([cellClass rangeOfString:@"Warning"].location != NSNotFound) {
+    if (cellClass != nil && [cellClass rangeOfString:@"Warning"].location != NSNotFound) {
       // A status warning: framed so it stands out from every other row.
       [lines addObject:[@"  " stringByAppendingString:[rule(@"!") substringToIndex:kScreenWidth - 4]]];
       NSArray *parts = [name componentsSeparatedByString:@"\n"];
@@ -382,11 +377,17 @@ static NSString *valueText(id value, PSSpecifier *specifier) {
       [lines addObject:[@"  " stringByAppendingString:[rule(@"!") substringToIndex:kScreenWidth - 4]]];
       continue;
     }
-    if ([cellClass rangeOfString:@"Credits"].location != NSNotFound) {
+    if (cellClass != nil && [cellClass rangeOfString:@"Credits"].location != NSNotFound) {
       [lines addObject:centred([NSString stringWithFormat:@"~ %@ ~%@", name, disabled])];
       continue;
     }
 
+    // Everything else is numbered for tapping (status and credits rows do nothing when tapped).
+    SettingsScreenItem *item = [[[SettingsScreenItem alloc] init] autorelease];
+    [item setSpecifier:specifier];
+    [item setController:page];
+    [items addObject:item];
+    NSString *number = [NSString stringWithFormat:@"[%lu]", (unsigned long)[items count]];
     NSString *left = [NSString stringWithFormat:@"  %@ %@", number, name];
     NSString *right = @"";
     id value = nil;

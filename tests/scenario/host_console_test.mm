@@ -1,0 +1,188 @@
+// The Settings host's command interpreter driven in-process: the real bundle in the
+// simulated Settings app, a simulated SpringBoard answering, commands in and screens out.
+#include <stdio.h>
+
+#include <string>
+#include <vector>
+
+#import "BundleFixture.h"
+#import "SettingsConsole.h"
+#import "SettingsHost.h"
+
+namespace {
+
+bool Contains(const std::string &text, const std::string &part) { return text.find(part) != std::string::npos; }
+
+// The number a screen gives the row or link whose line holds `label` ("[7] Reset all settings"), or 0.
+unsigned NumberOf(const std::string &screen, const std::string &label) {
+  size_t at = screen.find(label);
+  if (at == std::string::npos) return 0;
+  size_t lineStart = screen.rfind('\n', at);
+  lineStart = lineStart == std::string::npos ? 0 : lineStart + 1;
+  unsigned number = 0;
+  if (sscanf(screen.c_str() + lineStart, " [%u]", &number) != 1) return 0;
+  return number;
+}
+
+std::string HostScript(const char *name) {
+  std::string here = __FILE__;
+  return here.substr(0, here.rfind('/')) + "/../../platform/host/scripts/" + name;
+}
+
+}  // namespace
+
+class HostConsoleTest : public BundleTest {
+ protected:
+  void TearDown() override {
+    [console_ release];
+    console_ = nil;
+    BundleTest::TearDown();
+  }
+
+  // A device from `profile`, the Settings app built around the bundle, the product's page open.
+  void OpenSettings(const char *profile = SIM_DEFAULT_PROFILE) {
+    StartDevice(profile);
+    ASSERT_TRUE(SettingsHostBuildSettingsApp(SettingsHostLoadPreferenceBundle()));
+    console_ = [[SettingsConsole alloc] init];
+    ASSERT_TRUE([console_ openEntryNamed:@"Tessarin"]);
+    screen_ = [[console_ render] UTF8String];
+  }
+
+  std::string Run(const std::string &command) {
+    NSString *output = [console_ perform:[NSString stringWithUTF8String:command.c_str()]];
+    std::string text = [output UTF8String];
+    if (Contains(text, "====")) screen_ = text;
+    return text;
+  }
+
+  std::string Tap(const std::string &label) {
+    unsigned number = NumberOf(screen_, label);
+    EXPECT_GT(number, 0u) << label << " is not on the screen:\n" << screen_;
+    return Run("tap " + std::to_string(number));
+  }
+
+  SettingsConsole *console_ = nil;
+  std::string screen_;
+};
+
+TEST_F(HostConsoleTest, TheDefaultProfileOpensOnTheRootPageWithItsRows) {
+  OpenSettings();
+  for (const char *part : {"Settings > Tessarin", "Passcode options", "Trusted Wi-Fi networks", "Crash logs",
+                           "Reset all settings", "(button)"}) {
+    EXPECT_TRUE(Contains(screen_, part)) << part << " missing from:\n" << screen_;
+  }
+  // Biometrics are set up on this device: nothing is greyed and no prompt is up.
+  EXPECT_FALSE(Contains(screen_, "(disabled)")) << screen_;
+  EXPECT_FALSE(Contains(screen_, "<alert 1>")) << screen_;
+  EXPECT_TRUE(Contains(screen_, "[on]") || Contains(screen_, "[off]")) << screen_;
+}
+
+TEST_F(HostConsoleTest, BackReturnsToTheSettingsListAndTheEntryOpensAgain) {
+  OpenSettings();
+  std::string list = Run("back");
+  EXPECT_TRUE(Contains(list, "Settings")) << list;
+  EXPECT_EQ(NumberOf(list, "Tessarin"), 1u) << list;
+  EXPECT_FALSE(Contains(list, "Passcode options")) << list;
+  EXPECT_EQ(Run("back"), "This is the Settings list already.\n");
+  std::string page = Run("tap 1");
+  EXPECT_TRUE(Contains(page, "Passcode options")) << page;
+}
+
+TEST_F(HostConsoleTest, ResetAllAsksAndCancelByNumberLeavesThePage) {
+  OpenSettings();
+  std::string asked = Tap("Reset all settings");
+  ASSERT_TRUE(Contains(asked, "This will reset all settings to defaults")) << asked;
+  EXPECT_TRUE(Contains(asked, "<alert 1> Cancel (cancel)")) << asked;
+  EXPECT_TRUE(Contains(asked, "<alert 2> Reset")) << asked;
+  EXPECT_EQ(Run("tap 1"), "Answer the alert first (alert N).\n");
+
+  std::string cancelled = Run("alert 1");
+  EXPECT_FALSE(Contains(cancelled, "<alert")) << cancelled;
+  EXPECT_TRUE(Contains(cancelled, "Passcode options")) << cancelled;
+  EXPECT_TRUE(Contains(Run("alert 1"), "No alert is showing.")) << "the alert is gone";
+}
+
+TEST_F(HostConsoleTest, TheFirstRunPromptIsAnsweredByNumber) {
+  OpenSettings("iphone-nopasscode-ios16");
+  ASSERT_TRUE(Contains(screen_, "You do not have Face ID set.")) << screen_;
+  EXPECT_TRUE(Contains(screen_, "<alert 1> Setup Face ID")) << screen_;
+  EXPECT_TRUE(Contains(screen_, "<alert 3> No (cancel)")) << screen_;
+  EXPECT_TRUE(Contains(Run("alert 4"), "The alert has 3 actions.")) << screen_;
+  std::string page = Run("alert 3");
+  EXPECT_FALSE(Contains(page, "<alert")) << page;
+  EXPECT_TRUE(Contains(page, "Passcode options")) << page;
+  EXPECT_TRUE(Contains(page, "(disabled)")) << page;
+}
+
+TEST_F(HostConsoleTest, CommandsThatCannotRunSayWhy) {
+  OpenSettings();
+  struct Case {
+    const char *command;
+    const char *answer;
+  };
+  const Case cases[] = {
+      {"tap 999", "Choose a number from 1 to"},   {"tap x", "Choose a number from 1 to"},
+      {"frobnicate", "Unknown command"},          {"alert 1", "No alert is showing."},
+      {"type 1234", "no passcode entry"},         {"cancel", "no bar button"},
+      {"switch 1 maybe", "Say on or off"},        {"wait soon", "Say how long"},
+      {"flip 999", "Choose a number from 1 to"},
+  };
+  for (const Case &c : cases) {
+    std::string answer = Run(c.command);
+    EXPECT_TRUE(Contains(answer, c.answer)) << c.command << " answered:\n" << answer;
+  }
+  EXPECT_TRUE(Contains(Run("frobnicate"), "tap N")) << "unknown commands print the help";
+  EXPECT_EQ(Run("# a comment"), "");
+  EXPECT_EQ(Run("   "), "");
+}
+
+TEST_F(HostConsoleTest, FlippingASwitchStoresItsValue) {
+  OpenSettings();
+  unsigned session = NumberOf(screen_, "Keep session");
+  ASSERT_GT(session, 0u) << screen_;
+  std::string on = Run("switch " + std::to_string(session) + " on");
+  EXPECT_TRUE(Contains(on, "Keep session")) << on;
+  NSDictionary *stored = StoredPreferences();
+  ASSERT_NE(stored, nil);
+  std::string off = Run("flip " + std::to_string(NumberOf(on, "Keep session")));
+  NSDictionary *after = StoredPreferences();
+  ASSERT_NE(after, nil);
+  EXPECT_NE([[stored description] UTF8String], std::string([[after description] UTF8String]));
+}
+
+TEST_F(HostConsoleTest, AMismatchedPasscodeShowsTheWarningAndStartsOver) {
+  OpenSettings("iphone-nopasscode-ios16");
+  ASSERT_TRUE(Contains(screen_, "Set Tessarin Passcode")) << screen_;
+  Run("alert \"Set Tessarin Passcode\"");
+  std::string entry = Tap("Add");
+  ASSERT_TRUE(Contains(entry, "[ ][ ][ ][ ]")) << entry;
+  EXPECT_TRUE(Contains(entry, "Enter a Tessarin passcode")) << entry;
+  EXPECT_TRUE(Contains(entry, "[Cancel]")) << entry;
+  std::string again = Run("type 1234");
+  EXPECT_TRUE(Contains(again, "Re-enter Tessarin passcode")) << again;
+  Run("type 5678");
+  std::string warned = Run("wait 0.8");
+  EXPECT_TRUE(Contains(warned, "Passcodes didn't match. Try again.")) << warned;
+  EXPECT_TRUE(Contains(warned, "Enter a Tessarin passcode")) << warned;
+  std::string closed = Run("cancel");
+  EXPECT_FALSE(Contains(closed, "(modal page)")) << closed;
+  EXPECT_EQ([StoredPreferences() objectForKey:@"passcode"], nil);
+}
+
+TEST_F(HostConsoleTest, TheSetPasscodeScriptTakesTheFirstRunStateToAUsableRootPage) {
+  OpenSettings("iphone-nopasscode-ios16");
+  EXPECT_TRUE(Contains(screen_, "(disabled)")) << screen_;
+  EXPECT_TRUE(Contains(screen_, "<alert 2> Set Tessarin Passcode")) << screen_;
+
+  FILE *script = fopen(HostScript("set-passcode.txt").c_str(), "r");
+  ASSERT_NE(script, nullptr) << HostScript("set-passcode.txt");
+  char line[512];
+  std::string transcript;
+  while (fgets(line, sizeof line, script) != NULL) transcript += "> " + std::string(line) + Run(line);
+  fclose(script);
+
+  EXPECT_TRUE(Contains(screen_, "Settings > Tessarin")) << transcript;
+  EXPECT_TRUE(Contains(screen_, "Passcode options")) << transcript;
+  EXPECT_FALSE(Contains(screen_, "(disabled)")) << transcript;
+  EXPECT_NSEQ([StoredPreferences() objectForKey:@"passcode"], @"1234");
+}
