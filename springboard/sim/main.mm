@@ -1,6 +1,7 @@
 // The simulated SpringBoard: answers the settings bundle's messages on the device
 // named by TESSARIN_DEVICE_ROOT until it is sent SIGTERM or SIGINT.
 #import <Foundation/Foundation.h>
+#include <CoreFoundation/CoreFoundation.h>
 #include <Simulator/Simulator.h>
 #include <notify.h>
 #include <signal.h>
@@ -13,6 +14,24 @@ static volatile sig_atomic_t stopRequested = 0;
 static const char *const kHandledNotification = "net.corvane.tessarin.simulator.handled";
 
 static void requestStop(int signalNumber) { stopRequested = 1; }
+
+static void selfCheckArrived(CFNotificationCenterRef center, void *observer, CFStringRef name, const void *object,
+                             CFDictionaryRef userInfo) {
+  *(BOOL *)observer = YES;
+}
+
+// Ready means ready to answer at once: a notification has come round through this
+// process's own delivery path, and the archiver has made its first reply.
+static void warmUp(SimulatedSpringBoard *springBoard) {
+  static BOOL arrived = NO;
+  CFStringRef name = CFSTR("net.corvane.tessarin.simulator.selfcheck");
+  CFNotificationCenterAddObserver(CFNotificationCenterGetDarwinNotifyCenter(), &arrived, selfCheckArrived, name, NULL,
+                                  CFNotificationSuspensionBehaviorDeliverImmediately);
+  notify_post("net.corvane.tessarin.simulator.selfcheck");
+  [NSKeyedArchiver archivedDataWithRootObject:[springBoard replyToMessage:@"appL" userInfo:nil]];
+  SimRunLoopRunUntil(^BOOL { return arrived; }, 10.0);
+  CFNotificationCenterRemoveObserver(CFNotificationCenterGetDarwinNotifyCenter(), &arrived, name, NULL);
+}
 
 int main(int argc, char **argv) {
   NSAutoreleasePool *pool = [[NSAutoreleasePool alloc] init];
@@ -40,6 +59,7 @@ int main(int argc, char **argv) {
         return reply;
       }];
   [server start];
+  warmUp(springBoard);
   notify_post("net.corvane.tessarin.simulator.ready");
 
   while (!stopRequested) {
