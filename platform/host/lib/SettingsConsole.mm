@@ -155,7 +155,13 @@ static void performOn(id target, SEL action, id argument) {
   }
   BOOL opens = [specifier buttonAction] != NULL || [specifier controllerLoadAction] != NULL ||
                [specifier detailControllerClass] != Nil;
-  if (!opens) return @"Tapping that row does nothing.";
+  if (!opens) {
+    id named = [specifier propertyForKey:@"detail"];
+    if ([named isKindOfClass:[NSString class]] && NSClassFromString(named) == Nil) {
+      return [NSString stringWithFormat:@"The page %@ is not in the bundle.", named];
+    }
+    return @"Tapping that row does nothing.";
+  }
   if ([page isKindOfClass:[PSListController class]] &&
       SimListControllerTapSpecifier((PSListController *)page, specifier)) {
     return nil;
