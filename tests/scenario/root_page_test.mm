@@ -1,6 +1,7 @@
 // The root page as Settings shows it: its rows on several devices and add-on sets, its
 // header, first-run prompt, warnings and the reset-all flow.
 #import <UIKit/UIKit.h>
+#import <Preferences/PreferencesSimulation.h>
 #import <UIKit/UIKitSimulation.h>
 #import <Preferences/PSListController.h>
 #import <Preferences/PSSpecifier.h>
@@ -66,7 +67,9 @@ NSArray *actionTitles(UIAlertController *alert) {
 class RootPageTest : public BundleTest {
 protected:
     void TearDown() override {
-        SimUIKitReset();
+        // Alerts still on their way belong to this test's Settings, which goes with it.
+        SimRunLoopRunFor(0.1);
+        SimSettingsReset();
         BundleTest::TearDown();
     }
 

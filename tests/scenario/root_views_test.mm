@@ -1,5 +1,6 @@
 // The root page's custom cells and views: colours, fonts and frames.
 #import <UIKit/UIKit.h>
+#import <Preferences/PreferencesSimulation.h>
 #import <UIKit/UIKitSimulation.h>
 #import <Preferences/PSSpecifier.h>
 #import <Preferences/PSHeaderFooterView.h>
@@ -50,7 +51,9 @@ PSSpecifier *row(NSString *name, NSInteger cellType) {
 class RootViewsTest : public BundleTest {
 protected:
     void TearDown() override {
-        SimUIKitReset();
+        // Alerts still on their way belong to this test's Settings, which goes with it.
+        SimRunLoopRunFor(0.1);
+        SimSettingsReset();
         BundleTest::TearDown();
     }
 };
