@@ -475,3 +475,33 @@ TEST_F(RootPageTest, MissingPasscodePagesAreTolerated) {
     SimRunLoopRunFor(SimTransitionDuration + 0.1);
     if (NSClassFromString(@"TessarinUserPasscodeController") == Nil) EXPECT_EQ([page presentedViewController], nil);
 }
+
+TEST_F(RootPageTest, OlderSystemsReadThePasscodeCharacteristicsDirectly) {
+    // iOS 13: the passcode manager has no private record; an alphanumeric passcode takes the complex check.
+    Start("iphone-touchid-ios14", true, ^(NSMutableDictionary *profile) {
+        [profile setObject:@"13.7" forKey:@"systemVersion"];
+        [profile setObject:@"abcd" forKey:@"devicePasscode"];
+        [profile removeObjectForKey:@"passcodeCharacteristics"];
+    });
+    id manager = [NSClassFromString(@"MCPasscodeManager") performSelector:@selector(sharedManager)];
+    EXPECT_FALSE([manager respondsToSelector:@selector(_privatePasscodeDictWithOutError:)]);
+    NSArray *rows = [OpenRootPage() specifiers];
+    ASSERT_GT([rows count], 9u);
+    EXPECT_NSEQ([[rows objectAtIndex:8] name], @"Touch ID");
+    EXPECT_TRUE(sel_isEqual([[rows objectAtIndex:8] controllerLoadAction], @selector(loadUserComplexPasswordController)));
+}
+
+TEST_F(RootPageTest, TheFirstRunPromptCanOpenThePasscodePage) {
+    Start("iphone-nopasscode-ios16");
+    PSListController *page = OpenRootPage();
+    UIAlertController *alert = PresentedAlert(page);
+    ASSERT_NE(alert, nil);
+    Choose(alert, @"Set Tessarin Passcode");
+    SimRunLoopRunFor(SimTransitionDuration + 0.1);
+    Class passcodePage = NSClassFromString(@"TessarinPasscodeSettingsController");
+    UIViewController *top = [settingsRoot() topViewController];
+    if (passcodePage != Nil)
+        EXPECT_TRUE([top isKindOfClass:passcodePage]) << [NSStringFromClass([top class]) UTF8String];
+    else
+        EXPECT_EQ(top, page);
+}
