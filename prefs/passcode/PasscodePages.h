@@ -1,5 +1,5 @@
-// Helpers shared by the passcode pages: their texts, the error sound and the
-// refresh of the visible settings pages after the passcode changed.
+// Helpers shared by the passcode pages: their texts and views, the error sound
+// and the refresh of the visible settings pages after the passcode changed.
 #pragma once
 #import "core/PlatformAPI.h"
 #include "passcode/PasscodeFlow.hpp"
@@ -18,3 +18,13 @@ UINavigationController *settingsRootController(void);
 // list (its parent's children), except the root list itself, reloads its
 // rows after `delay` seconds.
 void scheduleSettingsPagesReload(NSTimeInterval delay);
+
+// The flows' geometry and colours as UIKit values.
+CGRect passcodeRect(const tessarin::passcode::Rect &rect);
+UIColor *passcodeColour(const tessarin::passcode::Rgb &colour);
+
+// A centred label of the passcode pages' font, as the prompt and the warning line are.
+UILabel *passcodePageLabel(const tessarin::passcode::Rect &frame, NSString *text);
+
+// The entry as text the flows take; empty for nil.
+std::string_view passcodeEntryView(NSString *entry);

@@ -51,3 +51,24 @@ void scheduleSettingsPagesReload(NSTimeInterval delay) {
     [child performSelector:@selector(reloadSpecifiers) withObject:nil afterDelay:delay];
   }
 }
+
+CGRect passcodeRect(const tessarin::passcode::Rect &rect) {
+  return CGRectMake(rect.x, rect.y, rect.width, rect.height);
+}
+
+UIColor *passcodeColour(const tessarin::passcode::Rgb &colour) {
+  return [UIColor colorWithRed:colour.red / 255.0 green:colour.green / 255.0 blue:colour.blue / 255.0 alpha:1.0];
+}
+
+UILabel *passcodePageLabel(const tessarin::passcode::Rect &frame, NSString *text) {
+  UILabel *label = [[[UILabel alloc] initWithFrame:passcodeRect(frame)] autorelease];
+  [label setTextAlignment:NSTextAlignmentCenter];
+  [label setText:text];
+  [label setFont:[UIFont systemFontOfSize:tessarin::passcode::kLabelFontSize]];
+  return label;
+}
+
+std::string_view passcodeEntryView(NSString *entry) {
+  const char *bytes = [entry UTF8String];
+  return bytes != nullptr ? std::string_view(bytes) : std::string_view();
+}

@@ -9,17 +9,6 @@ namespace {
 
 NSString *stringOf(NSString *entry) { return entry != nil ? entry : @""; }
 
-std::string_view viewOf(NSString *entry) {
-  const char *bytes = [stringOf(entry) UTF8String];
-  return bytes != nullptr ? std::string_view(bytes) : std::string_view();
-}
-
-CGRect cgRect(const Rect &r) { return CGRectMake(r.x, r.y, r.width, r.height); }
-
-UIColor *colourOf(const Rgb &c) {
-  return [UIColor colorWithRed:c.red / 255.0 green:c.green / 255.0 blue:c.blue / 255.0 alpha:1.0];
-}
-
 void setOriginX(UIView *view, CGFloat x) {
   CGRect frame = [view frame];
   frame.origin.x = x;
@@ -92,32 +81,23 @@ void setCentreX(UIView *view, CGFloat x) {
   delete _setFlow;
   _setFlow = new SetPasscodeFlow();
 
-  UIView *root = [[[UIView alloc] initWithFrame:cgRect(rootViewFrame(width))] autorelease];
+  UIView *root = [[[UIView alloc] initWithFrame:passcodeRect(rootViewFrame(width))] autorelease];
   [root setAutoresizingMask:kFlexibleSizeMask];
-  [root setBackgroundColor:colourOf([self usesDarkAppearance] ? kDarkBackground : kLightBackground)];
+  [root setBackgroundColor:passcodeColour([self usesDarkAppearance] ? kDarkBackground : kLightBackground)];
   if ([self respondsToSelector:@selector(setView:)]) [self setView:root];
 
   PSPasscodeField *field = [[[PSPasscodeField alloc] initWithNumberOfEntryFields:kDigitEntryFields] autorelease];
-  [field setFrame:cgRect(digitFieldFrame(width))];
+  [field setFrame:passcodeRect(digitFieldFrame(width))];
   [field setSecurePasscodeEntry:YES];
   [field setDelegate:self];
   self.passcodeField = field;
 
-  UILabel *prompt = [[[UILabel alloc] initWithFrame:cgRect(promptFrame(width))] autorelease];
-  [prompt setTextAlignment:NSTextAlignmentCenter];
-  [prompt setText:passcodePageText(SetPasscodeFlow::initialPrompt())];
-  [prompt setFont:[UIFont systemFontOfSize:kLabelFontSize]];
-  self.label = prompt;
-
-  UILabel *warning = [[[UILabel alloc] initWithFrame:cgRect(warningFrame(width))] autorelease];
-  [warning setTextAlignment:NSTextAlignmentCenter];
-  [warning setText:@""];
-  [warning setFont:[UIFont systemFontOfSize:kLabelFontSize]];
-  self.warnLabel = warning;
+  self.label = passcodePageLabel(promptFrame(width), passcodePageText(SetPasscodeFlow::initialPrompt()));
+  self.warnLabel = passcodePageLabel(warningFrame(width), @"");
 
   [root addSubview:field];
-  [root addSubview:prompt];
-  [root addSubview:warning];
+  [root addSubview:self.label];
+  [root addSubview:self.warnLabel];
 
   [self setTitle:passcodePageText(SetPasscodeFlow::title())];
   UIBarButtonItem *cancel = [[[UIBarButtonItem alloc] initWithTitle:passcodePageText(text::kCancel)
@@ -146,7 +126,7 @@ void setCentreX(UIView *view, CGFloat x) {
 - (void)passcodeField:(PSPasscodeField *)field enteredPasscode:(NSString *)passcode {
   CGPoint centre = [[self view] center];
   if (_setFlow == nullptr) _setFlow = new SetPasscodeFlow();
-  Step step = _setFlow->enter(viewOf(passcode));
+  Step step = _setFlow->enter(passcodeEntryView(passcode));
   // pass1 holds the first entry while the page asks for it again.
   self.pass1 = _setFlow->state() == SetPasscodeFlow::State::Reenter ? [[stringOf(passcode) copy] autorelease] : nil;
   [self carryOutStep:step centre:centre];

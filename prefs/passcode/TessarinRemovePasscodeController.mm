@@ -19,11 +19,6 @@ std::optional<std::string> optionalOf(NSString *stored) {
   return std::string(bytes);
 }
 
-std::string_view viewOf(NSString *entry) {
-  const char *bytes = [entry UTF8String];
-  return bytes != nullptr ? std::string_view(bytes) : std::string_view();
-}
-
 }  // namespace
 
 @implementation TessarinRemovePasscodeController
@@ -51,7 +46,7 @@ std::string_view viewOf(NSString *entry) {
 - (void)passcodeField:(PSPasscodeField *)field enteredPasscode:(NSString *)passcode {
   CGPoint centre = [[self view] center];
   if (_removeFlow == nullptr) _removeFlow = new RemovePasscodeFlow(optionalOf(_oldPass));
-  Step step = _removeFlow->enter(viewOf(passcode));
+  Step step = _removeFlow->enter(passcodeEntryView(passcode));
   [self carryOutStep:step centre:centre];
 }
 
@@ -89,7 +84,7 @@ std::string_view viewOf(NSString *entry) {
 - (void)passcodeField:(PSPasscodeField *)field enteredPasscode:(NSString *)passcode {
   CGPoint centre = [[self view] center];
   if (_changeFlow == nullptr) _changeFlow = new ChangePasscodeFlow(optionalOf(_oldPass));
-  Step step = _changeFlow->enter(viewOf(passcode));
+  Step step = _changeFlow->enter(passcodeEntryView(passcode));
   // pass1 marks the verified old passcode, pass2 the first new entry.
   ChangePasscodeFlow::State state = _changeFlow->state();
   NSString *entry = [[passcode copy] autorelease];

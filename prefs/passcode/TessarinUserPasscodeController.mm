@@ -18,13 +18,6 @@ NSString *nameOf(std::string_view name) {
       autorelease];
 }
 
-std::string_view viewOf(NSString *entry) {
-  const char *bytes = [entry UTF8String];
-  return bytes != nullptr ? std::string_view(bytes) : std::string_view();
-}
-
-CGRect cgRect(const Rect &r) { return CGRectMake(r.x, r.y, r.width, r.height); }
-
 // The device passcode's length from the passcode manager; 0 when unknown.
 long long devicePasscodeLength(void) {
   Class managerClass = NSClassFromString(@"MCPasscodeManager");
@@ -119,7 +112,7 @@ TokenAnswer tokenAnswer(id controller, SEL selector) {
   CGPoint centre = [[self view] center];
   if (_deviceFlow == nullptr) [self startFlow];
   id controller = nil;
-  Step step = _deviceFlow->enter(viewOf(passcode), [&](std::string_view) {
+  Step step = _deviceFlow->enter(passcodeEntryView(passcode), [&](std::string_view) {
     controller = [self newSystemControllerForPasscode:passcode];
     // Without a system page there is nothing to check with: refuse.
     if (controller == nil) return false;
@@ -166,36 +159,24 @@ TokenAnswer tokenAnswer(id controller, SEL selector) {
   NSAutoreleasePool *pool = [[NSAutoreleasePool alloc] init];
   CGFloat width = [[UIScreen mainScreen] bounds].size.width;
 
-  UIView *root = [[[UIView alloc] initWithFrame:cgRect(rootViewFrame(width))] autorelease];
+  UIView *root = [[[UIView alloc] initWithFrame:passcodeRect(rootViewFrame(width))] autorelease];
   [root setAutoresizingMask:kFlexibleSizeMask];
-  [root setBackgroundColor:[UIColor colorWithRed:kComplexBackground.red / 255.0
-                                           green:kComplexBackground.green / 255.0
-                                            blue:kComplexBackground.blue / 255.0
-                                           alpha:1.0]];
+  [root setBackgroundColor:passcodeColour(kComplexBackground)];
   if ([self respondsToSelector:@selector(setView:)]) [self setView:root];
 
-  UITextField *field = [[[UITextField alloc] initWithFrame:cgRect(complexFieldFrame(width))] autorelease];
+  UITextField *field = [[[UITextField alloc] initWithFrame:passcodeRect(complexFieldFrame(width))] autorelease];
   [field setSecureTextEntry:YES];
   [field setEnabled:YES];
   [field setBackgroundColor:[UIColor whiteColor]];
   [field setDelegate:self];
   self.passcodeField = field;
 
-  UILabel *prompt = [[[UILabel alloc] initWithFrame:cgRect(complexPromptFrame(width))] autorelease];
-  [prompt setTextAlignment:NSTextAlignmentCenter];
-  [prompt setText:passcodePageText(DevicePasscodeFlow::initialPrompt())];
-  [prompt setFont:[UIFont systemFontOfSize:kLabelFontSize]];
-  self.label = prompt;
-
-  UILabel *warning = [[[UILabel alloc] initWithFrame:cgRect(complexWarningFrame(width))] autorelease];
-  [warning setTextAlignment:NSTextAlignmentCenter];
-  [warning setText:@""];
-  [warning setFont:[UIFont systemFontOfSize:kLabelFontSize]];
-  self.warnLabel = warning;
+  self.label = passcodePageLabel(complexPromptFrame(width), passcodePageText(DevicePasscodeFlow::initialPrompt()));
+  self.warnLabel = passcodePageLabel(complexWarningFrame(width), @"");
 
   [root addSubview:field];
-  [root addSubview:prompt];
-  [root addSubview:warning];
+  [root addSubview:self.label];
+  [root addSubview:self.warnLabel];
 
   [self setTitle:passcodePageText(_deviceFlow->title())];
   UIBarButtonItem *cancel = [[[UIBarButtonItem alloc] initWithTitle:passcodePageText(text::kCancel)
