@@ -240,7 +240,7 @@ TEST_F(ServicesTest, SpringBoardStartsWhenReadyAndStops)
 
     setenv(CHILD_HELPER_ENV, "silentSpringBoard", 1);
     NSDate *start = [NSDate date];
-    EXPECT_EQ(SimSpringBoardStart(self.c_str()), -1) << "never ready";
+    EXPECT_EQ(SimSpringBoardStartWithin(self.c_str(), 5.0), -1) << "never ready";
     unsetenv(CHILD_HELPER_ENV);
     EXPECT_GE([[NSDate date] timeIntervalSinceDate:start], 4.5);
 }

@@ -63,6 +63,8 @@ void SimRunLoopRunFor(double seconds);
 /* Starts the simulated SpringBoard executable at `path` on the current device and waits
    until it is ready to answer. Returns its pid, or -1. */
 pid_t SimSpringBoardStart(const char *path);
+/* The same, giving up (and stopping it) after `timeout` seconds; SimSpringBoardStart waits 30 s. */
+pid_t SimSpringBoardStartWithin(const char *path, double timeout);
 /* Stops it (SIGTERM, then waits). */
 void SimSpringBoardStop(pid_t pid);
 
