@@ -5,6 +5,7 @@
 #include <Simulator/Simulator.h>
 #include <notify.h>
 #include <signal.h>
+#include <sys/prctl.h>
 #include <stdio.h>
 #include <unistd.h>
 #import "SimulatedSpringBoard.h"
@@ -42,6 +43,9 @@ int main(int argc, char **argv) {
   }
   signal(SIGTERM, requestStop);
   signal(SIGINT, requestStop);
+  // A Settings process that dies (a crashed test, say) takes its SpringBoard with it.
+  prctl(PR_SET_PDEATHSIG, SIGTERM);
+  if (getppid() == 1) return 0;
 
   NSDictionary *profile = SimDeviceProfile();
   NSDictionary *facts = [profile objectForKey:@"springboard"];
