@@ -45,7 +45,6 @@ int main(int argc, char **argv) {
   signal(SIGINT, requestStop);
   // A Settings process that dies (a crashed test, say) takes its SpringBoard with it.
   prctl(PR_SET_PDEATHSIG, SIGTERM);
-  if (getppid() == 1) return 0;
 
   NSDictionary *profile = SimDeviceProfile();
   NSDictionary *facts = [profile objectForKey:@"springboard"];
