@@ -184,7 +184,7 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
   if (std::optional<std::string_view> footer = singleGroupFooter(cachedLibraryVersion, supported)) {
     PSSpecifier *group = [PSSpecifier groupSpecifierWithName:nil];
     [group setProperty:string(*footer) forKey:@"footerText"];
-    _specifiers = [[NSMutableArray alloc] initWithObjects:group, nil];
+    _specifiers = [[NSArray alloc] initWithObjects:group, nil];
     return _specifiers;
   }
 
@@ -294,7 +294,7 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
   // Read as SpringBoard reads it; the rows are the same either way.
   (void)prefsValueForKey("Enabled");
 
-  _specifiers = [rows mutableCopy];
+  _specifiers = [rows copy];
   return _specifiers;
 }
 

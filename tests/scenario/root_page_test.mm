@@ -444,7 +444,7 @@ TEST_F(RootPageTest, CancellingTheResetKeepsEverything) {
 TEST_F(RootPageTest, TheSessionSwitchRebuildsThePage) {
     Start();
     PSListController *page = OpenRootPage();
-    NSArray *before = [page specifiers];
+    NSArray *before = [[[page specifiers] retain] autorelease];  // kept alive, so a new list cannot reuse its address
     PSSpecifier *session = rowWithId(before, @"KEEP_SESSION");
     ASSERT_NE(session, nil);
     [page setPreferenceValue:@(YES) specifier:session];
