@@ -30,7 +30,9 @@ static void warmUp(SimulatedSpringBoard *springBoard) {
                                   CFNotificationSuspensionBehaviorDeliverImmediately);
   notify_post("net.corvane.tessarin.simulator.selfcheck");
   [NSKeyedArchiver archivedDataWithRootObject:[springBoard replyToMessage:@"appL" userInfo:nil]];
-  SimRunLoopRunUntil(^BOOL { return arrived; }, 10.0);
+  if (!SimRunLoopRunUntil(^BOOL { return arrived; }, 10.0)) {
+    fprintf(stderr, "tessarin-springboard: its own notification did not come round in 10 s\n");
+  }
   CFNotificationCenterRemoveObserver(CFNotificationCenterGetDarwinNotifyCenter(), &arrived, name, NULL);
 }
 

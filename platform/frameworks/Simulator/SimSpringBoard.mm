@@ -2,6 +2,7 @@
 
 #import <Foundation/Foundation.h>
 #include <Simulator/Simulator.h>
+#include <stdio.h>
 #include "SimInternal.h"
 
 #include <errno.h>
@@ -47,6 +48,7 @@ pid_t SimSpringBoardStartWithin(const char *path, double timeout)
         int status;
         if (waitpid(pid, &status, WNOHANG) == pid) return -1;  // died before it was ready
         if (monotonicSeconds() > limit) {
+            fprintf(stderr, "simulated SpringBoard %d was not ready after %.0f s; stopping it\n", (int)pid, timeout);
             SimSpringBoardStop(pid);
             return -1;
         }
