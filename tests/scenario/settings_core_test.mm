@@ -215,3 +215,18 @@ TEST_F(SettingsCoreTest, AlertHelperReturnsAtOnceAndPresentsOnTheMainQueue) {
     EXPECT_NSEQ([[[alert actions] objectAtIndex:0] title], @"Later");
     EXPECT_NSEQ([[[alert actions] objectAtIndex:1] title], @"Now");
 }
+
+TEST_F(SettingsCoreTest, WithoutWiFiThereIsNoNetworkAndNoTrust) {
+    StartDevice(SIM_DEFAULT_PROFILE, false, ^(NSMutableDictionary *profile) {
+        [profile removeObjectForKey:@"wifi"];
+    });
+    id manager = [NSClassFromString(@"TessarinWiFiManager") performSelector:@selector(sharedInstance)];
+    ASSERT_NE(manager, nil);
+    EXPECT_EQ([[manager performSelector:@selector(networksArrayAsDictionaries)] count], 0u);
+    EXPECT_EQ([[manager performSelector:@selector(devices)] count], 0u);
+    EXPECT_EQ((void *)[manager performSelector:@selector(currentNetwork)], nullptr);
+    BundleSymbol<SetValue>("setPrefsValueForKey")(@[ @{@"bssid" : @"a4:2b:b0:11:22:33", @"ssid" : @"Home"} ],
+                                                  "allowedWiFis");
+    SEL isOnTrusted = @selector(isOnTrustedNetwork);
+    EXPECT_FALSE(((BOOL(*)(id, SEL))[manager methodForSelector:isOnTrusted])(manager, isOnTrusted));
+}
