@@ -65,6 +65,17 @@ NSArray *arrayOrEmpty(id object) {
   return records;
 }
 
+// The bundle identifiers of the applications offered for protection, in the
+// profile's order (entries are application facts or plain identifiers).
+- (NSArray *)applicationIdentifiers {
+  NSMutableArray *identifiers = [NSMutableArray array];
+  for (id app in arrayOrEmpty([_profile objectForKey:@"apps"])) {
+    id identifier = [app isKindOfClass:[NSDictionary class]] ? [app objectForKey:@"bundleIdentifier"] : app;
+    if ([identifier isKindOfClass:[NSString class]] && [identifier length]) [identifiers addObject:identifier];
+  }
+  return identifiers;
+}
+
 - (NSDictionary *)replyToMessage:(NSString *)identifier userInfo:(NSDictionary *)userInfo {
   using namespace tessarin::message;
   if ([identifier isEqualToString:@(kLibraryVersion)]) return [self libraryVersionReply];
@@ -73,7 +84,7 @@ NSArray *arrayOrEmpty(id object) {
     return [NSDictionary dictionaryWithObject:[NSNumber numberWithInt:enrolled ? 1 : 0] forKey:@"idsn"];
   }
   if ([identifier isEqualToString:@(kApplications)]) {
-    return [NSDictionary dictionaryWithObject:arrayOrEmpty([_profile objectForKey:@"apps"]) forKey:@"apps"];
+    return [NSDictionary dictionaryWithObject:[self applicationIdentifiers] forKey:@"apps"];
   }
   if ([identifier isEqualToString:@(kFolders)]) {
     return [NSDictionary dictionaryWithObject:arrayOrEmpty([_profile objectForKey:@"folders"])

@@ -46,6 +46,18 @@ TEST_F(TransportTest, EveryRequestGetsItsReplyAndTheReplyFileIsRemoved) {
               [[[profile objectForKey:@"springboard"] objectForKey:@"libraryVersion"] unsignedIntValue]);
 }
 
+TEST_F(TransportTest, ApplicationsReplyIsTheListOfBundleIdentifiers) {
+    StartDevice();
+    NSMutableArray *expected = [NSMutableArray array];
+    for (NSDictionary *app in [SimDeviceProfile() objectForKey:@"apps"]) [expected addObject:[app objectForKey:@"bundleIdentifier"]];
+    ASSERT_GT([expected count], 0u);
+    NSDictionary *reply = [productCenter() sendMessageAndReceiveReplyName:@"appL" userInfo:nil];
+    NSArray *apps = [reply objectForKey:@"apps"];
+    EXPECT_NSEQ(apps, expected);
+    // The applications list tests membership of a bundle identifier with indexOfObject:.
+    EXPECT_NE([apps indexOfObject:@"com.apple.mobilesafari"], (NSUInteger)NSNotFound);
+}
+
 TEST_F(TransportTest, WithoutSpringBoardARequestGivesNilAfterItsBudget) {
     StartDevice(SIM_DEFAULT_PROFILE, /*withSpringBoard=*/false);
     auto start = std::chrono::steady_clock::now();
