@@ -1,6 +1,10 @@
 #import "SimulatedSpringBoard.h"
 #include <notify.h>
+#include <optional>
+#include <string>
+#include <vector>
 #include "core/Names.hpp"
+#include "wifi/WiFiNetworks.hpp"
 
 namespace {
 
@@ -10,6 +14,12 @@ NSDictionary *dictionaryOrEmpty(id object) {
 
 NSArray *arrayOrEmpty(id object) {
   return [object isKindOfClass:[NSArray class]] ? object : [NSArray array];
+}
+
+std::optional<std::string> text(id object) {
+  if (![object isKindOfClass:[NSString class]]) return std::nullopt;
+  const char *utf8 = [(NSString *)object UTF8String];
+  return utf8 ? std::optional<std::string>(utf8) : std::nullopt;
 }
 
 }  // namespace
@@ -48,18 +58,26 @@ NSArray *arrayOrEmpty(id object) {
   return [NSDictionary dictionaryWithObject:[NSNumber numberWithUnsignedLongLong:value] forKey:@"dlbv"];
 }
 
+// The device's joined networks as the Wi-Fi manager lists them: most recently
+// joined first, nameless ones left out, an unknown BSSID as "ff:ff:ff:ff:ff:ff".
 - (NSArray *)knownNetworks {
-  NSMutableArray *records = [NSMutableArray array];
+  std::vector<tessarin::wifi::PlatformNetwork> known;
   for (id network in arrayOrEmpty([dictionaryOrEmpty([_profile objectForKey:@"wifi"]) objectForKey:@"networks"])) {
     NSDictionary *facts = dictionaryOrEmpty(network);
-    NSString *ssid = [facts objectForKey:@"ssid"];
-    if (![ssid isKindOfClass:[NSString class]] || [ssid length] == 0) continue;
-    NSMutableDictionary *record = [NSMutableDictionary dictionaryWithObject:ssid forKey:@"ssid"];
-    NSString *bssid = [facts objectForKey:@"bssid"];
-    [record setObject:([bssid isKindOfClass:[NSString class]] && [bssid length] ? bssid : @"ff:ff:ff:ff:ff:ff")
-               forKey:@"bssid"];
-    NSString *password = [facts objectForKey:@"password"];
-    if ([password isKindOfClass:[NSString class]] && [password length]) [record setObject:password forKey:@"password"];
+    tessarin::wifi::PlatformNetwork platform;
+    platform.ssid = text([facts objectForKey:@"ssid"]);
+    platform.bssid = text([facts objectForKey:@"bssid"]);
+    platform.password = text([facts objectForKey:@"password"]);
+    id joined = [facts objectForKey:@"lastJoined"];
+    if ([joined isKindOfClass:[NSDate class]]) platform.lastJoined = [(NSDate *)joined timeIntervalSinceReferenceDate];
+    known.push_back(std::move(platform));
+  }
+  NSMutableArray *records = [NSMutableArray array];
+  for (const tessarin::wifi::NetworkRecord &network : tessarin::wifi::networkRecords(std::move(known))) {
+    NSMutableDictionary *record = [NSMutableDictionary dictionary];
+    [record setObject:@(network.ssid.c_str()) forKey:@"ssid"];
+    [record setObject:@(network.bssid.c_str()) forKey:@"bssid"];
+    if (network.password) [record setObject:@(network.password->c_str()) forKey:@"password"];
     [records addObject:record];
   }
   return records;

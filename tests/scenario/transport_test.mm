@@ -58,6 +58,26 @@ TEST_F(TransportTest, ApplicationsReplyIsTheListOfBundleIdentifiers) {
     EXPECT_NE([apps indexOfObject:@"com.apple.mobilesafari"], (NSUInteger)NSNotFound);
 }
 
+TEST_F(TransportTest, NetworksReplyListsTheMostRecentlyJoinedFirst) {
+    StartDevice();
+    NSDictionary *reply = [productCenter() sendMessageAndReceiveReplyName:@"wfls" userInfo:nil];
+    NSArray *networks = [reply objectForKey:@"networks"];
+    struct Row { NSString *ssid; NSString *bssid; NSString *password; };
+    const Row rows[] = {
+        {@"Office-5G", @"f0:9f:c2:44:55:66", @"work1234"},
+        {@"Home Network", @"a4:2b:b0:11:22:33", @"correct horse"},
+        {@"Cafe Guest", @"00:1a:2b:3c:4d:5e", nil},
+        {@"Hidden Lab", @"ff:ff:ff:ff:ff:ff", nil},  // never joined: last
+    };
+    ASSERT_EQ([networks count], sizeof rows / sizeof rows[0]);
+    for (size_t i = 0; i < sizeof rows / sizeof rows[0]; ++i) {
+        NSDictionary *network = [networks objectAtIndex:i];
+        EXPECT_NSEQ([network objectForKey:@"ssid"], rows[i].ssid) << i;
+        EXPECT_NSEQ([network objectForKey:@"bssid"], rows[i].bssid) << i;
+        EXPECT_NSEQ([network objectForKey:@"password"], rows[i].password) << i;
+    }
+}
+
 TEST_F(TransportTest, WithoutSpringBoardARequestGivesNilAfterItsBudget) {
     StartDevice(SIM_DEFAULT_PROFILE, /*withSpringBoard=*/false);
     auto start = std::chrono::steady_clock::now();
