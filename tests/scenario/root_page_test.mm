@@ -505,3 +505,60 @@ TEST_F(RootPageTest, TheFirstRunPromptCanOpenThePasscodePage) {
     else
         EXPECT_EQ(top, page);
 }
+
+TEST_F(RootPageTest, ATouchIdPhoneWithoutPasscodeOpensTheSystemPageAndWarnsOnlyUnderTheLoader) {
+    const struct {
+        const char *what;
+        double cornerRadius;
+        bool loaderInstalled, notice;
+    } cases[] = {
+        {"rounded corners, loader installed", 20, true, true},
+        {"square corners, loader installed", 0, true, false},
+        {"rounded corners, no loader", 20, false, false},
+    };
+    for (const auto &c : cases) {
+        SCOPED_TRACE(c.what);
+        const double radius = c.cornerRadius;
+        const bool loader = c.loaderInstalled;
+        StopSpringBoard();
+        Start("iphone-touchid-ios14", true, ^(NSMutableDictionary *profile) {
+            [profile removeObjectForKey:@"devicePasscode"];
+            [profile removeObjectForKey:@"passcodeCharacteristics"];
+            [profile setObject:@(NO) forKey:@"biometricsEnrolled"];
+            [profile setObject:@(radius) forKey:@"deviceCornerRadius"];
+            if (loader) {
+                NSMutableArray *apps = [[[profile objectForKey:@"apps"] mutableCopy] autorelease];
+                [apps addObject:@{@"bundleIdentifier" : @"kjc.loader", @"displayName" : @"loader"}];
+                [profile setObject:apps forKey:@"apps"];
+            }
+        });
+        PSListController *page = OpenRootPage();
+
+        // Without a device passcode the row leads straight to the system's own page.
+        NSArray *rows = [page specifiers];
+        ASSERT_GT([rows count], 9u);
+        PSSpecifier *auth = [rows objectAtIndex:8];
+        EXPECT_NSEQ([auth name], @"Touch ID");
+        EXPECT_EQ([auth detailControllerClass], NSClassFromString(@"PSTouchIDPasscodeController"));
+        EXPECT_EQ([auth controllerLoadAction], (SEL)0);
+
+        UIAlertController *prompt = PresentedAlert(page);
+        ASSERT_NE(prompt, nil);
+        EXPECT_NSEQ(actionTitles(prompt), (@[ @"Setup Touch ID", @"Set Tessarin Passcode", @"No" ]));
+        Choose(prompt, @"Setup Touch ID");
+        SimRunLoopRunFor(SimTransitionDuration + 0.1);
+
+        UIViewController *top = [settingsRoot() topViewController];
+        EXPECT_TRUE([top isKindOfClass:NSClassFromString(@"PSMesaSettingsController")])
+            << [NSStringFromClass([top class]) UTF8String];
+        UIAlertController *notice = PresentedAlert(top, c.notice ? 2.0 : 0.5);
+        EXPECT_EQ(notice != nil, c.notice);
+        if (notice != nil) {
+            EXPECT_NSEQ([notice title], @"Tessarin");
+            EXPECT_TRUE([[notice message] hasPrefix:@"Checkr4in jailbreak detected on iOS 14.x!\n"]);
+            EXPECT_NSEQ(actionTitles(notice), @[ @"Okay" ]);
+            EXPECT_EQ([[[notice actions] objectAtIndex:0] style], UIAlertActionStyleCancel);
+        }
+        SimSettingsReset();
+    }
+}
