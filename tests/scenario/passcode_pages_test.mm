@@ -9,6 +9,7 @@
 #import <Preferences/PreferencesSimulation.h>
 #include <Simulator/SimSystemFiles.h>
 #include <notify.h>
+#include <objc/runtime.h>
 #import "BundleFixture.h"
 #import "SettingsHost.h"
 
@@ -390,6 +391,79 @@ TEST_F(PasscodePagesTest, ChangeAsksOldThenNewTwiceAndKeepsTheAddTitle)
     EXPECT_EQ(SimNotifyPostCount(kPrefsChanged), changes + 1);
     EXPECT_EQ(SimIgnoringInteractionEventsCount(), 0);
     EXPECT_EQ([settings presentedViewController], nil);
+}
+
+namespace {
+
+// Reloads of the Settings list page, counted by an override added to its class
+// (it inherits reloadSpecifiers otherwise).
+unsigned settingsListReloads = 0;
+IMP inheritedListReload = nullptr;
+
+void countedListReload(id self, SEL cmd)
+{
+    settingsListReloads++;
+    ((void (*)(id, SEL))inheritedListReload)(self, cmd);
+}
+
+void countSettingsListReloads()
+{
+    SEL reload = @selector(reloadSpecifiers);
+    if (inheritedListReload == nullptr) {
+        inheritedListReload = class_getMethodImplementation([PSListController class], reload);
+        class_addMethod([PrefsListController class], reload, (IMP)countedListReload, "v@:");
+    }
+    settingsListReloads = 0;
+}
+
+}  // namespace
+
+// A stored passcode changes the product's root page too (its greyed rows and
+// warnings), so a commit and the reset from SpringBoard rebuild every page of
+// the Settings navigation except the Settings list itself.
+TEST_F(PasscodePagesTest, CommitAndResetRebuildThePagesBelowButNotTheSettingsList)
+{
+    Start();
+    Class rootClass = NSClassFromString(@"TessarinPrefsListController");
+    ASSERT_NE(rootClass, Nil);
+    PSListController *root = [[[rootClass alloc] init] autorelease];
+    [RootNavigation() pushViewController:root animated:NO];
+    SimRunLoopRunFor(0.1);
+    PSListController *settings = OpenSettingsPage();
+    PSListController *settingsList = [SimSettingsRootController() rootListController];
+    ASSERT_NE(settingsList, nil);
+    countSettingsListReloads();
+
+    struct Change {
+        const char *what;
+        void (^run)(void);
+    };
+    const Change changes[] = {
+        {"set", ^{
+             id page = OpenModal(settings, @selector(addPassword));
+             Type(page, @"2580");
+             Type(page, @"2580", kFlowSettle);
+         }},
+        {"reset", ^{
+             notify_post("net.corvane.tessarin.passcodeReset");
+             SimRunLoopRunFor(kFlowSettle);
+         }},
+    };
+    for (const Change &c : changes) {
+        SCOPED_TRACE(c.what);
+        // Held, so that a rebuilt list cannot reuse the old one's address.
+        NSArray *rootRows = [[root specifiers] retain];
+        unsigned listReloads = settingsListReloads;
+        NSArray *settingsRows = [[settings specifiers] retain];
+        c.run();
+        EXPECT_NE([root specifiers], rootRows);
+        EXPECT_NE([settings specifiers], settingsRows);
+        EXPECT_EQ(settingsListReloads, listReloads);
+        [rootRows release];
+        [settingsRows release];
+    }
+    EXPECT_EQ(StoredPasscode(), nil);
+    EXPECT_NSEQ(rowIDs([settings specifiers]), @[ @"ADD_TESSARIN_PASSCODE" ]);
 }
 
 // MARK: - Device passcode
