@@ -205,7 +205,7 @@ void recordPost(const std::string &root, const char *name)
 
 @interface SimNotifyDelivery : NSObject
 + (void)deliver:(NSArray *)nameAndGeneration;
-+ (void)receiveLoop:(NSNumber *)socket;
+- (void)receivedEvent:(void *)data type:(RunLoopEventType)type extra:(void *)extra forMode:(NSString *)mode;
 @end
 
 @implementation SimNotifyDelivery
@@ -241,34 +241,46 @@ void recordPost(const std::string &root, const char *name)
     }
 }
 
-+ (void)receiveLoop:(NSNumber *)socketNumber
+// The socket is watched by the main run loop itself: posts arrive on the main thread
+// with no thread of ours in between (a receiving thread that hands names over with
+// performSelectorOnMainThread: can deadlock against class initialisation on the main
+// thread under GCC's runtime).
+- (void)receivedEvent:(void *)data type:(RunLoopEventType)type extra:(void *)extra forMode:(NSString *)mode
 {
-    int fd = [socketNumber intValue];
-    unsigned generation = SimDeviceGeneration();
+    int fd = (int)(intptr_t)data;
     char buf[1024];
-    for (;;) {
-        pthread_mutex_lock(&gNotifyLock);
-        bool current = gSocket == fd;
-        pthread_mutex_unlock(&gNotifyLock);
-        if (!current) break;
-        struct pollfd p = {fd, POLLIN, 0};
-        if (poll(&p, 1, 200) <= 0) continue;
-        ssize_t n = recv(fd, buf, sizeof buf - 1, 0);
-        if (n <= 0) continue;
+    ssize_t n;
+    while ((n = recv(fd, buf, sizeof buf - 1, MSG_DONTWAIT)) > 0) {
         buf[n] = '\0';
         NSAutoreleasePool *pool = [[NSAutoreleasePool alloc] init];
         NSString *name = [NSString stringWithUTF8String:buf];
         if (name) {
-            NSArray *message = [NSArray arrayWithObjects:name, [NSNumber numberWithUnsignedInt:generation], nil];
-            [self performSelectorOnMainThread:@selector(deliver:) withObject:message waitUntilDone:NO];
+            pthread_mutex_lock(&gNotifyLock);
+            bool current = gSocket == fd;
+            unsigned generation = gSocketGeneration;
+            pthread_mutex_unlock(&gNotifyLock);
+            if (current) {
+                [SimNotifyDelivery deliver:[NSArray arrayWithObjects:name, [NSNumber numberWithUnsignedInt:generation], nil]];
+            }
         }
         [pool release];
     }
-    close(fd);
 }
 @end
 
 namespace {
+
+// Adds the socket to, or removes it from, the main run loop's watched descriptors.
+void watchSocket(int fd, bool watch)
+{
+    NSRunLoop *loop = [NSRunLoop mainRunLoop];
+    static id watcher = [[SimNotifyDelivery alloc] init];
+    if (watch) {
+        [loop addEvent:(void *)(intptr_t)fd type:ET_RDESC watcher:watcher forMode:NSDefaultRunLoopMode];
+    } else {
+        [loop removeEvent:(void *)(intptr_t)fd type:ET_RDESC forMode:NSDefaultRunLoopMode all:YES];
+    }
+}
 
 // Binds this process's socket on the device in use and starts receiving. Caller holds gNotifyLock.
 void ensureListening()
@@ -296,9 +308,7 @@ void ensureListening()
     if (marker >= 0) close(marker);
     gSocket = fd;
     gSocketGeneration = SimDeviceGeneration();
-    [NSThread detachNewThreadSelector:@selector(receiveLoop:)
-                             toTarget:[SimNotifyDelivery class]
-                           withObject:[NSNumber numberWithInt:fd]];
+    watchSocket(fd, true);
 }
 
 void sendToPeers(const std::string &root, const char *name)
@@ -369,7 +379,11 @@ void SimNotifyDeviceChanged(void)
     }
     localState().clear();
     localCounts().clear();
-    gSocket = -1;  // the receiving thread sees it and closes its socket
+    if (gSocket >= 0) {
+        watchSocket(gSocket, false);
+        close(gSocket);
+    }
+    gSocket = -1;
     pthread_mutex_unlock(&gNotifyLock);
 }
 
