@@ -562,3 +562,15 @@ TEST_F(RootPageTest, ATouchIdPhoneWithoutPasscodeOpensTheSystemPageAndWarnsOnlyU
         SimSettingsReset();
     }
 }
+
+TEST_F(RootPageTest, TheGracePeriodTokenIsRegisteredOnceHoweverOftenRowsAreBuilt) {
+    Start();
+    const char *const grace = "net.corvane.tessarin.graceperiod";
+    PSListController *page = OpenRootPage();
+    for (int rebuild = 0; rebuild < 3; rebuild++) {
+        [page reloadSpecifiers];
+        [page specifiers];
+    }
+    OpenRootPage();
+    EXPECT_EQ(SimNotifyRegistrationCount(grace), 1u);  // one token for the life of the process
+}

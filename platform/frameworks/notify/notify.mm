@@ -333,6 +333,13 @@ void sendToPeers(const std::string &root, const char *name)
     closedir(dir);
 }
 
+// How often this process registered each name, for tests (never reset).
+std::map<std::string, unsigned> &registrationCounts()
+{
+    static std::map<std::string, unsigned> *counts = new std::map<std::string, unsigned>();
+    return *counts;
+}
+
 uint32_t registerToken(const char *name, int *outToken, notify_handler_t handler, dispatch_queue_t queue)
 {
     if (name == nullptr || outToken == nullptr) return NOTIFY_STATUS_NULL_INPUT;
@@ -341,6 +348,7 @@ uint32_t registerToken(const char *name, int *outToken, notify_handler_t handler
     int token = gNextToken++;
     Registration &r = tokens()[token];
     r.name = name;
+    registrationCounts()[name]++;
     if (handler) {
         r.handler = Block_copy(handler);
         r.queue = queue;
@@ -385,6 +393,15 @@ void SimNotifyDeviceChanged(void)
     }
     gSocket = -1;
     pthread_mutex_unlock(&gNotifyLock);
+}
+
+unsigned SimNotifyRegistrationCount(const char *name)
+{
+    if (name == nullptr) return 0;
+    pthread_mutex_lock(&gNotifyLock);
+    unsigned count = registrationCounts()[name];
+    pthread_mutex_unlock(&gNotifyLock);
+    return count;
 }
 
 unsigned SimNotifyPostCount(const char *name)

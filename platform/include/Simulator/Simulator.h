@@ -53,6 +53,8 @@ char *SimDevicePath(const char *devicePath, char *buf, size_t size);
 
 /* Counts of Darwin notifications posted on this device, by any process, since it was created. */
 unsigned SimNotifyPostCount(const char *name);
+/* How many notify tokens this process has registered for `name`, on any device. */
+unsigned SimNotifyRegistrationCount(const char *name);
 
 /* Number of IOServiceGetMatchingService calls made in this process. */
 unsigned SimIOKitMatchCount(void);
