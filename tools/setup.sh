@@ -3,7 +3,7 @@
 set -euo pipefail
 
 packages=(clang cmake make libgnustep-base-dev gnustep-make libobjc-12-dev libblocksruntime-dev
-          googletest libgtest-dev libbenchmark-dev libclang-rt-14-dev)
+          googletest libgtest-dev libbenchmark-dev libclang-rt-14-dev locales)
 missing=()
 for package in "${packages[@]}"; do
   dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q "install ok installed" || missing+=("$package")

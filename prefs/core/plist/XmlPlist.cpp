@@ -6,6 +6,7 @@
 
 #include "core/plist/BinaryPlist.hpp"
 #include "core/plist/RawNode.hpp"
+#include "core/plist/RealText.hpp"
 #include "core/plist/Utf.hpp"
 
 namespace tessarin::plist {
@@ -100,9 +101,7 @@ bool parseInteger(std::string_view s, Value &out) {
 bool parseReal(std::string_view s, double &out) {
     s = trim(s);
     if (!s.empty() && s.front() == '+') s.remove_prefix(1);
-    if (s.empty()) return false;
-    const auto r = std::from_chars(s.data(), s.data() + s.size(), out);
-    return r.ec == std::errc() && r.ptr == s.data() + s.size();
+    return parseRealText(s, out);
 }
 
 int base64Digit(char c) {
@@ -488,11 +487,8 @@ bool writeNode(std::string &out, const RawNode &n, int indent) {
         out += "</integer>\n";
         return true;
     case Value::Kind::Real: {
-        const double d = *v.asReal();
-        char buf[64];
-        const auto r = std::to_chars(buf, buf + sizeof buf, d);
         out += "<real>";
-        out.append(buf, r.ptr);
+        out += formatRealText(*v.asReal());
         out += "</real>\n";
         return true;
     }
