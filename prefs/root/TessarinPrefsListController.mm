@@ -373,7 +373,10 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
 }
 
 - (void)infoTapped:(id)sender {
-  [[UIApplication sharedApplication] openURL:[NSURL URLWithString:kCatalogueURL]];
+  // Empty options: the page opens in the browser, as a plain link would.
+  [[UIApplication sharedApplication] openURL:[NSURL URLWithString:kCatalogueURL]
+                                     options:[NSDictionary dictionary]
+                             completionHandler:nil];
 }
 
 - (void)alertView:(id)alertView clickedButtonAtIndex:(NSInteger)buttonIndex {

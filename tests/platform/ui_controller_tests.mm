@@ -159,8 +159,14 @@ TEST_F(UIControllerTest, AlertActionRunsAfterDismissal)
 TEST_F(UIControllerTest, ApplicationRecordsURLsAndBarButtonTaps)
 {
     UIApplication *app = [UIApplication sharedApplication];
+#pragma clang diagnostic push
+#pragma clang diagnostic ignored "-Wdeprecated-declarations"
     EXPECT_TRUE([app openURL:[NSURL URLWithString:@"https://example.org/apps"]]);
-    EXPECT_EQ(SimOpenedURLs().count, 1u);
+#pragma clang diagnostic pop
+    [app openURL:[NSURL URLWithString:@"https://example.org/new"] options:nil completionHandler:nil];
+    ASSERT_EQ(SimOpenedURLs().count, 2u);
+    EXPECT_EQ([SimOpenedURLOptions() objectAtIndex:0], [NSNull null]);
+    EXPECT_NSEQ([SimOpenedURLOptions() objectAtIndex:1], [NSDictionary dictionary]);
     UITestPage *page = Page(@"P");
     UIBarButtonItem *save = [[[UIBarButtonItem alloc] initWithTitle:@"Save" style:UIBarButtonItemStylePlain target:page
                                                              action:@selector(viewDidAppear:)] autorelease];

@@ -463,7 +463,10 @@ TEST_F(RootPageTest, TheCatalogueLinkOpensTheMakersPage) {
     [page performSelector:@selector(infoTapped:) withObject:nil];
     NSArray *opened = SimOpenedURLs();
     ASSERT_EQ([opened count], 1u);
-    EXPECT_NSEQ([[opened objectAtIndex:0] scheme], @"https");
+    EXPECT_NSEQ([[opened objectAtIndex:0] absoluteString], @"https://corvane.example/apps");
+    // Opened without options (the browser, not an app claiming the link) and not through
+    // the call deprecated since iOS 10.
+    EXPECT_NSEQ([SimOpenedURLOptions() objectAtIndex:0], [NSDictionary dictionary]);
 }
 
 TEST_F(RootPageTest, MissingPasscodePagesAreTolerated) {

@@ -395,7 +395,12 @@ BOOL SimFooterHyperlinkTap(PSFooterHyperlinkView *view) {
     [view.target performSelector:view.action withObject:view];
     return YES;
   }
-  if (view.URL) return [[UIApplication sharedApplication] openURL:view.URL];
+  if (view.URL) {
+    UIApplication *app = [UIApplication sharedApplication];
+    if (![app canOpenURL:view.URL]) return NO;
+    [app openURL:view.URL options:[NSDictionary dictionary] completionHandler:nil];
+    return YES;
+  }
   return NO;
 }
 

@@ -39,20 +39,24 @@ BOOL SimUIKitDarkMode(void) {
 @interface _SimUIKitRecords : NSObject {
   NSMutableArray *_sounds;
   NSMutableArray *_urls;
+  NSMutableArray *_urlOptions;
   NSMutableArray *_animations;
 }
 @property(nonatomic, readonly) NSMutableArray *sounds;
 @property(nonatomic, readonly) NSMutableArray *urls;
+@property(nonatomic, readonly) NSMutableArray *urlOptions;
 @property(nonatomic, readonly) NSMutableArray *animations;
 @end
 @implementation _SimUIKitRecords
 @synthesize sounds = _sounds;
 @synthesize urls = _urls;
+@synthesize urlOptions = _urlOptions;
 @synthesize animations = _animations;
 - (instancetype)init {
   if ((self = [super init])) {
     _sounds = [[NSMutableArray alloc] init];
     _urls = [[NSMutableArray alloc] init];
+    _urlOptions = [[NSMutableArray alloc] init];
     _animations = [[NSMutableArray alloc] init];
   }
   return self;
@@ -67,9 +71,12 @@ _SimUIKitRecords *SimUIKitRecords(void) {
 
 NSArray *SimPlayedSystemSounds(void) { return [NSArray arrayWithArray:SimUIKitRecords().sounds]; }
 NSArray *SimOpenedURLs(void) { return [NSArray arrayWithArray:SimUIKitRecords().urls]; }
+NSArray *SimOpenedURLOptions(void) { return [NSArray arrayWithArray:SimUIKitRecords().urlOptions]; }
 NSArray *SimRecordedViewAnimations(void) { return [NSArray arrayWithArray:SimUIKitRecords().animations]; }
-void SimUIKitRecordURL(NSURL *url) {
-  if (url) [SimUIKitRecords().urls addObject:url];
+void SimUIKitRecordURL(NSURL *url, NSDictionary *options) {
+  if (!url) return;
+  [SimUIKitRecords().urls addObject:url];
+  [SimUIKitRecords().urlOptions addObject:options ? (id)options : (id)[NSNull null]];
 }
 void SimUIKitRecordAnimation(NSTimeInterval duration, NSTimeInterval delay, NSUInteger options) {
   NSDictionary *d = [NSDictionary dictionaryWithObjectsAndKeys:[NSNumber numberWithDouble:duration], @"duration",
@@ -83,6 +90,7 @@ void SimUIKitReset(void) {
   _SimUIKitRecords *r = SimUIKitRecords();
   [r.sounds removeAllObjects];
   [r.urls removeAllObjects];
+  [r.urlOptions removeAllObjects];
   [r.animations removeAllObjects];
   [UIPasteboard generalPasteboard].items = [NSArray array];
   SimUIKitResetResponders();

@@ -9,7 +9,7 @@ extern "C" {
 NSDictionary *SimUIKitProfile(void);
 CGFloat SimUIKitScreenScale(void);
 BOOL SimUIKitDarkMode(void);
-void SimUIKitRecordURL(NSURL *url);
+void SimUIKitRecordURL(NSURL *url, NSDictionary *options);
 void SimUIKitRecordAnimation(NSTimeInterval duration, NSTimeInterval delay, NSUInteger options);
 void SimUIKitResetResponders(void);
 UIResponder *SimUIKitFirstResponder(void);

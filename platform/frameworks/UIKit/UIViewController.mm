@@ -816,13 +816,16 @@ static UIApplication *gSharedApplication;
 - (BOOL)canOpenURL:(NSURL *)url {
   return [url isKindOfClass:[NSURL class]] && [url scheme].length > 0;
 }
-- (BOOL)openURL:(NSURL *)url {
-  if (![self canOpenURL:url]) return NO;
-  SimUIKitRecordURL(url);
+static BOOL SimOpenURL(UIApplication *app, NSURL *url, NSDictionary *options) {
+  if (![app canOpenURL:url]) return NO;
+  SimUIKitRecordURL(url, options);
   return YES;
 }
+- (BOOL)openURL:(NSURL *)url {
+  return SimOpenURL(self, url, nil);
+}
 - (void)openURL:(NSURL *)url options:(NSDictionary *)options completionHandler:(void (^)(BOOL success))completion {
-  BOOL ok = [self openURL:url];
+  BOOL ok = SimOpenURL(self, url, options ? options : [NSDictionary dictionary]);
   if (completion) {
     SimUIKitSchedule(0, ^{
       completion(ok);

@@ -55,7 +55,8 @@ UIKIT_EXTERN NSString *const UIApplicationWillEnterForegroundNotification;
 - (void)endIgnoringInteractionEvents;
 - (BOOL)isIgnoringInteractionEvents;
 - (BOOL)canOpenURL:(NSURL *)url;
-- (BOOL)openURL:(NSURL *)url;
+- (BOOL)openURL:(NSURL *)url
+    __attribute__((deprecated("first deprecated in iOS 10.0 - Please use openURL:options:completionHandler: instead")));
 - (void)openURL:(NSURL *)url options:(NSDictionary *)options completionHandler:(void (^)(BOOL success))completion;
 - (BOOL)sendAction:(SEL)action to:(id)target from:(id)sender forEvent:(UIEvent *)event;
 @end

@@ -9,6 +9,8 @@
 UIKIT_EXTERN NSArray *SimPlayedSystemSounds(void);
 /* URLs given to openURL: and openURL:options:completionHandler:, oldest first. */
 UIKIT_EXTERN NSArray *SimOpenedURLs(void);
+/* The options each of those URLs was opened with, in the same order; NSNull for openURL:. */
+UIKIT_EXTERN NSArray *SimOpenedURLOptions(void);
 /* The application's interaction-event suspension count (0: touches are delivered). */
 UIKIT_EXTERN NSInteger SimIgnoringInteractionEventsCount(void);
 /* Every view animation asked for, oldest first: dictionaries with "duration", "delay"
