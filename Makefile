@@ -23,7 +23,9 @@ BUNDLE_NAME = TessarinPrefs
 # The start-up constructor links last, as in the CMake build.
 TESSARIN_SOURCES := $(sort $(shell find prefs \( -name '*.mm' -o -name '*.cpp' \) -type f))
 TESSARIN_STARTUP := $(wildcard prefs/core/StartupAtLoad.mm)
-TessarinPrefs_FILES = $(filter-out %/linux/% $(TESSARIN_STARTUP),$(TESSARIN_SOURCES)) $(TESSARIN_STARTUP)
+# (filter-out cannot do this: only the first % of a pattern is a wildcard.)
+TESSARIN_DEVICE_SOURCES := $(foreach f,$(TESSARIN_SOURCES),$(if $(findstring /linux/,$(f)),,$(f)))
+TessarinPrefs_FILES = $(filter-out $(TESSARIN_STARTUP),$(TESSARIN_DEVICE_SOURCES)) $(TESSARIN_STARTUP)
 
 TessarinPrefs_INSTALL_PATH = /Library/PreferenceBundles
 TessarinPrefs_RESOURCE_DIRS = resources

@@ -1,43 +1,83 @@
 #!/usr/bin/env bash
-# Syntax-checks every product .mm as the device build compiles it (TESSARIN_SIMULATED=0):
-# private frameworks come only from prefs/core/ios/, never from the Linux stand-ins. The
-# UIKit, CoreFoundation, substrate, libroot, notify and dispatch stand-ins stand in for the
-# SDK and Theos; IOKit is hidden so the header-less SDK case is checked. Catches code that
-# compiles on Linux only because a stand-in header declares more than the device build does.
+# Compiles the bundle's sources on Linux as the iOS build compiles them, so that what the
+# device compiler rejects fails here first:
+#   - the source list is the Makefile's own (files under a directory named "linux" left out),
+#     and the rule that leaves them out is checked on a scratch tree;
+#   - clang 19 with its own C++ library (libc++), with the library parts that iOS 12's
+#     libc++ lacks marked unavailable (device-check/ios12-library.h);
+#   - every Objective-C++ source also sees the global names Apple's SDK headers declare
+#     (device-check/sdk-global-names.h), so a collision with one of ours shows here;
+#   - TESSARIN_SIMULATED=0, private frameworks only from prefs/core/ios/, the UIKit,
+#     CoreFoundation, substrate, libroot, notify and dispatch stand-ins in place of the SDK;
+#   - -Wall -Werror, as Theos builds;
+#   - last, a short list of library parts newer than iOS 12 that no compiler here can see,
+#     refused by name.
 set -u
 top=$(cd "$(dirname "$0")/.." && pwd)
+here=$top/tools/device-check
+cxx=${TESSARIN_DEVICE_CXX:-clang++-19}
+command -v "$cxx" >/dev/null || { echo "device-build check: $cxx is missing (tools/setup.sh installs it)"; exit 1; }
 work=$(mktemp -d); trap 'rm -rf "$work"' EXIT
-inc=$work/include; mkdir -p "$inc/mach" "$inc/MessageUI"
+status=0
+
+# The Makefile's source list, read with Theos's makefiles replaced by empty ones.
+mkdir -p "$work/theos/makefiles"; : >"$work/theos/makefiles/common.mk"; : >"$work/theos/makefiles/bundle.mk"
+bundle_sources() {  # $1: project directory
+  make -s -C "$1" -f "$top/Makefile" THEOS="$work/theos" THEOS_MAKE_PATH="$work/theos/makefiles" \
+    --eval 'tessarin-sources: ; @printf "%s\n" $(TessarinPrefs_FILES)' tessarin-sources
+}
+
+# The rule itself, on a scratch tree: a linux/ file at any depth stays out, start-up links last.
+probe=$work/probe
+mkdir -p "$probe/prefs/core/linux" "$probe/prefs/lists/linux/deeper" "$probe/prefs/lists"
+touch "$probe/prefs/core/StartupAtLoad.mm" "$probe/prefs/core/linux/HostOnly.mm" \
+  "$probe/prefs/lists/linux/deeper/HostOnly.cpp" "$probe/prefs/lists/Page.mm" "$probe/prefs/lists/Rules.cpp"
+expected=$'prefs/lists/Page.mm\nprefs/lists/Rules.cpp\nprefs/core/StartupAtLoad.mm'
+got=$(bundle_sources "$probe")
+if [ "$got" != "$expected" ]; then
+  printf 'device-build check: the Makefile source rule gives\n%s\ninstead of\n%s\n' "$got" "$expected"
+  status=1
+fi
+
+sources=$(bundle_sources "$top") || { echo "device-build check: cannot read the Makefile's sources"; exit 1; }
+
+# Stand-in headers, less the private frameworks the device build declares in prefs/core/ios/.
+inc=$work/include; mkdir -p "$inc/mach"
 for f in "$top"/platform/include/*; do
   case $(basename "$f") in Preferences|PreferencesUI|AppSupport|ManagedConfiguration|IOKit|Simulator) ;;
     *) ln -s "$f" "$inc/$(basename "$f")";; esac
 done
-printf 'typedef unsigned int mach_port_t;\ntypedef int kern_return_t;\n' > "$inc/mach/mach.h"
-cat > "$inc/MessageUI/MessageUI.h" <<'H'
-#import <UIKit/UIKit.h>
-typedef NS_ENUM(NSInteger, MFMailComposeResult) { MFMailComposeResultCancelled, MFMailComposeResultSaved, MFMailComposeResultSent, MFMailComposeResultFailed };
-@class MFMailComposeViewController;
-@protocol MFMailComposeViewControllerDelegate <NSObject>
-@optional
-- (void)mailComposeController:(MFMailComposeViewController *)controller didFinishWithResult:(MFMailComposeResult)result error:(NSError *)error;
-@end
-@interface MFMailComposeViewController : UINavigationController
-+ (BOOL)canSendMail;
-@property (nonatomic, assign) id<MFMailComposeViewControllerDelegate> mailComposeDelegate;
-- (void)setSubject:(NSString *)subject;
-- (void)setToRecipients:(NSArray *)toRecipients;
-- (void)setMessageBody:(NSString *)body isHTML:(BOOL)isHTML;
-@end
-H
+ln -s "$here/include/MessageUI" "$inc/MessageUI"
+printf 'typedef unsigned int mach_port_t;\ntypedef int kern_return_t;\n' >"$inc/mach/mach.h"
 gcc_objc=$(ls -d /usr/lib/gcc/*-linux-gnu/*/include | tail -1)
-status=0
+
+common=(-std=c++17 -stdlib=libc++ -fsyntax-only -Wall -Werror -DTESSARIN_SIMULATED=0
+        -include "$here/ios12-library.h" -Iprefs -I.)
+objcxx=(-x objective-c++ -fobjc-runtime=gcc -fblocks -fexceptions -fobjc-exceptions
+        -fconstant-string-class=NSConstantString -DGNUSTEP -DGNUSTEP_BASE_LIBRARY=1 -DGNU_RUNTIME=1
+        -D_NATIVE_OBJC_EXCEPTIONS -DCF_RETURNS_RETAINED= -DCF_RELEASES_ARGUMENT=
+        -include "$here/sdk-global-names.h" -isystem "$inc" -isystem /usr/include/GNUstep -idirafter "$gcc_objc")
 cd "$top"
-for f in $(find prefs -name '*.mm' | sort); do
-  out=$(clang++ -std=c++17 -fsyntax-only -x objective-c++ -fobjc-runtime=gcc -fblocks -fexceptions -fobjc-exceptions \
-    -fconstant-string-class=NSConstantString -DGNUSTEP -DGNUSTEP_BASE_LIBRARY=1 -DGNU_RUNTIME=1 -D_NATIVE_OBJC_EXCEPTIONS \
-    -DTESSARIN_SIMULATED=0 -DCF_RETURNS_RETAINED= -DCF_RELEASES_ARGUMENT= -Wall -Wno-unused-parameter \
-    -Iprefs -I. -isystem "$inc" -isystem /usr/include/GNUstep -idirafter "$gcc_objc" "$f" 2>&1)
-  if echo "$out" | grep -q -E 'error|warning'; then echo "$out"; status=1; fi
+printf '%s\n' "${common[@]}" >"$work/cpp.flags"
+printf '%s\n' "${common[@]}" "${objcxx[@]}" >"$work/mm.flags"
+count=$(printf '%s\n' $sources | wc -l)
+# One compiler per core; each prints its diagnostics only when the source fails.
+printf '%s\n' $sources | xargs -P "$(nproc)" -n 1 sh -c '
+  case "$2" in *.mm) flags=$1/mm.flags;; *) flags=$1/cpp.flags;; esac
+  out=$("$0" @"$flags" "$2" 2>&1) || { printf "%s\n" "$out"; exit 1; }' "$cxx" "$work" || status=1
+
+# Newer than iOS 12, and invisible to the compilers here.
+refused=(
+  'std::filesystem|<filesystem>'              # libc++ has it from iOS 13; its markup cannot be forced here
+  'std::pmr|<memory_resource>'                # iOS 17
+  'kIOMainPortDefault'                        # iOS 15: use kIOMasterPortDefault
+  'std::aligned_alloc|[^_a-z]aligned_alloc\(' # C11 aligned_alloc is in iOS's libc from iOS 13
+  'timespec_get'                              # iOS 13
+)
+for pattern in "${refused[@]}"; do
+  hits=$(printf '%s\n' $sources | xargs grep -n -E "$pattern" /dev/null | grep -v -E '^[^:]+:[0-9]+:\s*(//|\*|/\*)')
+  [ -n "$hits" ] && { printf 'not available on iOS 12 (%s):\n%s\n' "$pattern" "$hits"; status=1; }
 done
-[ $status = 0 ] && echo "device-build check: $(find prefs -name '*.mm' | wc -l) sources clean"
+
+[ $status = 0 ] && echo "device-build check: $count sources clean"
 exit $status

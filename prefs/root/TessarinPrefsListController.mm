@@ -328,8 +328,8 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
   if (std::optional<Alert> prompt = firstRunPrompt(facts)) [self showAlert:*prompt from:self];
 
   const CGFloat width = [[self view] frame].size.width;
-  const Rect headerFrame = header::headerFrame(width);
-  const Rect labelFrame = header::versionLabelFrame(width);
+  const tessarin::root::Rect headerFrame = header::headerFrame(width);
+  const tessarin::root::Rect labelFrame = header::versionLabelFrame(width);
   UIView *headerView =
       [[UIView alloc] initWithFrame:CGRectMake(headerFrame.x, headerFrame.y, headerFrame.width, headerFrame.height)];
   [headerView setClipsToBounds:header::kClipsToBounds];
@@ -350,7 +350,7 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
 
 - (void)viewDidLayoutSubviews {
   [super viewDidLayoutSubviews];
-  const Rect frame = header::versionLabelFrame([[self view] frame].size.width);
+  const tessarin::root::Rect frame = header::versionLabelFrame([[self view] frame].size.width);
   [_versionLabel setFrame:CGRectMake(frame.x, frame.y, frame.width, frame.height)];
 }
 
