@@ -47,6 +47,35 @@ CHILD_HELPER(startGracePeriodElsewhere) {
 
 class SettingsCoreTest : public BundleTest {};
 
+// The start-up routine leaves no trace of its order but the platform calls it makes, which
+// the simulated process records: each is named here by the step it belongs to.
+TEST_F(SettingsCoreTest, StartUpRunsItsStepsInOrderAsTheBundleLoads) {
+    StartDevice(SIM_DEFAULT_PROFILE, /*withSpringBoard=*/false);
+    NSDictionary *steps = @{
+        @"MSHookMessageEx -[NSException initWithName:reason:userInfo:]" : @"exception logger",
+        @"MSHookMessageEx -[CPDistributedMessagingCenter sendMessageName:userInfo:]" : @"transport",
+        @"MSHookMessageEx -[CPDistributedMessagingCenter sendMessageAndReceiveReplyName:userInfo:]" : @"transport",
+        @"operatingSystemVersionString" : @"version flags",
+        @"NSLog Starting up in settings..." : @"log line",
+        @"MSHookMessageEx +[NSObject initialize]" : @"glyph watcher",
+        @"notify_register_check net.corvane.tessarin.ipcoverride" : @"transport token",
+    };
+    NSArray *events = SimEventLog();
+    NSUInteger load = [events indexOfObject:@"load TessarinPrefs.bundle"];
+    ASSERT_NE(load, (NSUInteger)NSNotFound) << [[events description] UTF8String];
+    NSMutableArray *seen = [NSMutableArray array];
+    for (NSUInteger i = load + 1; i < [events count]; ++i) {
+        NSString *event = [events objectAtIndex:i];
+        NSString *step = [steps objectForKey:event];
+        if (step == nil) step = event;  // anything else the routine did shows as itself
+        if (![[seen lastObject] isEqual:step]) [seen addObject:step];
+        if ([step isEqual:@"transport token"]) break;
+    }
+    // The modern flags before the log line, the older ones after the glyph watcher.
+    EXPECT_NSEQ(seen, (@[ @"exception logger", @"transport", @"version flags", @"log line", @"glyph watcher",
+                          @"version flags", @"transport token" ]));
+}
+
 TEST_F(SettingsCoreTest, WritesReachDiskAndPostNothingByThemselves) {
     StartDevice(SIM_DEFAULT_PROFILE, /*withSpringBoard=*/false);
     auto set = BundleSymbol<SetValue>("setPrefsValueForKey");
@@ -229,4 +258,56 @@ TEST_F(SettingsCoreTest, WithoutWiFiThereIsNoNetworkAndNoTrust) {
                                                   "allowedWiFis");
     SEL isOnTrusted = @selector(isOnTrustedNetwork);
     EXPECT_FALSE(((BOOL(*)(id, SEL))[manager methodForSelector:isOnTrusted])(manager, isOnTrusted));
+}
+
+TEST_F(SettingsCoreTest, HasPearlAfterItsFirstAnswerReturnsWhatTheSensorTestWrote) {
+    StartDevice("iphone-touchid-ios14", /*withSpringBoard=*/false);  // Touch ID only
+    auto sensor = BundleSymbol<Query>("iPhone64Bit");
+    auto pearl = BundleSymbol<Query>("hasPearl");
+    BOOL *pearlCam = BundleSymbol<BOOL *>("hasPearlCam");
+    EXPECT_FALSE(pearl());
+    // The registry now shows a Face ID camera (another device's registry stands for it):
+    // the sensor test finds it and writes the shared flag, which hasPearl then returns
+    // without asking the registry itself.
+    UseDevice(SIM_DEFAULT_PROFILE);
+    EXPECT_TRUE(sensor());
+    EXPECT_TRUE(*pearlCam);
+    unsigned asked = SimIOKitMatchCount();
+    EXPECT_TRUE(pearl());
+    EXPECT_EQ(SimIOKitMatchCount(), asked);
+}
+
+TEST_F(SettingsCoreTest, BundleLookupTakesTheFirstInstalledCandidate) {
+    StartDevice(SIM_DEFAULT_PROFILE, /*withSpringBoard=*/false);  // rootless: installed under /var/jb
+    auto lookup = BundleSymbol<NSBundle *(*)(void)>("_Z14tessarinBundlev");
+    NSString *bootstrap = @"/bootstrap/Library/PreferenceBundles/TessarinPrefs.bundle";
+    NSString *lib = @"/var/LIB/PreferenceBundles/TessarinPrefs.bundle";
+    NSString *jb = @"/var/jb/Library/PreferenceBundles/TessarinPrefs.bundle";
+    NSFileManager *files = [NSFileManager defaultManager];
+    // Each step adds (or removes) one candidate; the lookup is asked again every time.
+    const struct { NSString *add; NSString *remove; NSString *expected; } steps[] = {
+        {nil, nil, jb},
+        {lib, nil, lib},
+        {bootstrap, nil, bootstrap},
+        {nil, lib, bootstrap},
+        {nil, bootstrap, jb},
+    };
+    for (const auto &s : steps) {
+        if (s.add) ASSERT_TRUE([files createDirectoryAtPath:HostPathString(s.add) withIntermediateDirectories:YES
+                                                 attributes:nil error:NULL]);
+        if (s.remove) ASSERT_TRUE([files removeItemAtPath:HostPathString(s.remove) error:NULL]);
+        NSBundle *found = lookup();
+        // The installed bundle is a link to the built one; bundles name their resolved path.
+        EXPECT_NSEQ([[found bundlePath] stringByResolvingSymlinksInPath],
+                    [HostPathString(s.expected) stringByResolvingSymlinksInPath])
+            << [s.expected UTF8String];
+    }
+}
+
+TEST_F(SettingsCoreTest, BundleLookupWithoutACandidateTakesTheLoadedBundle) {
+    StartDevice("iphone-touchid-ios14", /*withSpringBoard=*/false);  // rootful: installed under /Library
+    auto lookup = BundleSymbol<NSBundle *(*)(void)>("_Z14tessarinBundlev");
+    Class rootPage = NSClassFromString(@"TessarinPrefsListController");
+    ASSERT_NE(rootPage, Nil);
+    EXPECT_EQ(lookup(), [NSBundle bundleForClass:rootPage]);
 }

@@ -190,3 +190,78 @@ TEST_F(TransportTest, OtherCentresKeepThePlatformChannel) {
     EXPECT_EQ(SimNotifyPostCount("net.corvane.tessarin.ipcoverride"), signals);
     EXPECT_FALSE(DeviceFileExists("/tmp/.dlbv-reply"));
 }
+
+@interface OneWayRecorder : NSObject {
+    NSMutableArray *_received;
+}
+@property(nonatomic, retain) NSMutableArray *received;
+- (void)handle:(NSString *)name userInfo:(NSDictionary *)userInfo;
+@end
+@implementation OneWayRecorder
+@synthesize received = _received;
+- (instancetype)init {
+    if ((self = [super init])) _received = [[NSMutableArray alloc] init];
+    return self;
+}
+- (void)dealloc {
+    [_received release];
+    [super dealloc];
+}
+- (void)handle:(NSString *)name userInfo:(NSDictionary *)userInfo {
+    [_received addObject:@[ name, userInfo ? (id)userInfo : (id)[NSNull null] ]];
+}
+@end
+
+TEST_F(TransportTest, OneWayMessagesToOtherCentresKeepThePlatformChannelAndItsAnswer) {
+    StartDevice(SIM_DEFAULT_PROFILE, /*withSpringBoard=*/false);
+    // The platform answers NO when no server runs under the name; the product's transport would say YES.
+    const struct { const char *what; NSString *centre; bool serverRuns; } cases[] = {
+        {"a server runs", @"com.example.listening", true},
+        {"no server", @"com.example.silent", false},
+    };
+    for (const auto &c : cases) {
+        OneWayRecorder *recorder = [[[OneWayRecorder alloc] init] autorelease];
+        CPDistributedMessagingCenter *other = [CPDistributedMessagingCenter centerNamed:c.centre];
+        if (c.serverRuns) {
+            [other runServerOnCurrentThread];
+            [other registerForMessageName:@"spsi" target:recorder selector:@selector(handle:userInfo:)];
+        }
+        unsigned signals = SimNotifyPostCount("net.corvane.tessarin.ipcoverride");
+        NSDictionary *userInfo = @{@"showsInLockScreen" : @(NO)};
+
+        EXPECT_EQ((bool)[other sendMessageName:@"spsi" userInfo:userInfo], c.serverRuns) << c.what;
+        NSArray *expected = c.serverRuns ? @[ @[ @"spsi", userInfo ] ] : @[];
+        EXPECT_NSEQ([recorder received], expected) << c.what;
+        EXPECT_EQ(SimNotifyPostCount("net.corvane.tessarin.ipcoverride"), signals) << c.what;
+        EXPECT_FALSE(DeviceFileExists("/tmp/.spsi")) << c.what;
+        if (c.serverRuns) [other stopServer];
+    }
+}
+
+TEST_F(TransportTest, IdentifiersShorterThanFourBytesAreNotSent) {
+    StartDevice(SIM_DEFAULT_PROFILE, /*withSpringBoard=*/false);
+    int token = NOTIFY_TOKEN_INVALID;
+    ASSERT_EQ(notify_register_check("net.corvane.tessarin.ipcoverride", &token), (uint32_t)NOTIFY_STATUS_OK);
+    [productCenter() sendMessageName:@"dlbv" userInfo:nil];  // leaves its code as the shared state
+
+    NSDictionary *userInfo = @{@"showsInLockScreen" : @(YES)};
+    NSString *const shortNames[] = {@"", @"a", @"dlb", @"\u00e9"};  // the last: one character, two bytes
+    for (NSString *name : shortNames) {
+        const std::string request = std::string("/tmp/.") + [name UTF8String];
+        const std::string reply = request + "-reply";
+        // A reply file under the would-be name must not be taken for an answer.
+        NSData *lying = archive(@{@"dlbv" : @(1)});
+        WriteDeviceFile(reply.c_str(), lying);
+        unsigned signals = SimNotifyPostCount("net.corvane.tessarin.ipcoverride");
+
+        [productCenter() sendMessageName:name userInfo:userInfo];
+        EXPECT_EQ([productCenter() sendMessageAndReceiveReplyName:name userInfo:userInfo], nil) << request;
+
+        EXPECT_EQ(SimNotifyPostCount("net.corvane.tessarin.ipcoverride"), signals) << request;
+        uint64_t state = 0;
+        notify_get_state(token, &state);
+        EXPECT_EQ(state, 0x646C6276u) << request;
+        if (request != "/tmp/.") EXPECT_FALSE(DeviceFileExists(request.c_str())) << request;
+        EXPECT_TRUE([ReadDeviceFile(reply.c_str()) isEqualToData:lying]) << reply;
+    }
+}

@@ -310,6 +310,7 @@ static IMP gOriginalVersionString;
 
 static NSString *simOperatingSystemVersionString(id self, SEL _cmd)
 {
+    SimEventLogAppend("operatingSystemVersionString");
     NSDictionary *profile = SimDeviceProfile();
     NSString *version = [profile objectForKey:@"systemVersion"];
     NSString *build = [profile objectForKey:@"build"];

@@ -432,18 +432,30 @@ uint32_t notify_post(const char *name)
     return NOTIFY_STATUS_OK;
 }
 
+// "notify_register_check NAME" and the like, into the event log.
+static void recordRegistration(const char *call, const char *name)
+{
+    std::string event(call);
+    event += ' ';
+    event += name ? name : "(null)";
+    SimEventLogAppend(event.c_str());
+}
+
 uint32_t notify_register_check(const char *name, int *out_token)
 {
+    recordRegistration("notify_register_check", name);
     return registerToken(name, out_token, nullptr, nullptr);
 }
 
 uint32_t notify_register_plain(const char *name, int *out_token)
 {
+    recordRegistration("notify_register_plain", name);
     return registerToken(name, out_token, nullptr, nullptr);
 }
 
 uint32_t notify_register_dispatch(const char *name, int *out_token, dispatch_queue_t queue, notify_handler_t handler)
 {
+    recordRegistration("notify_register_dispatch", name);
     if (handler == nullptr) return NOTIFY_STATUS_NULL_INPUT;
     return registerToken(name, out_token, handler, queue);
 }

@@ -2,6 +2,7 @@
 
 #import <Foundation/Foundation.h>
 #include <substrate.h>
+#include <Simulator/Simulator.h>
 
 #include <pthread.h>
 
@@ -17,8 +18,20 @@ static bool definesMethod(Class cls, SEL sel)
     return found;
 }
 
+// "MSHookMessageEx -[Class selector]", "+[...]" for a class method, into the event log.
+static void recordHook(Class cls, SEL message)
+{
+    const char *name = cls != Nil ? class_getName(cls) : "nil";
+    const char *selector = message != NULL ? sel_getName(message) : "NULL";
+    char event[512];
+    snprintf(event, sizeof event, "MSHookMessageEx %c[%s %s]", cls != Nil && class_isMetaClass(cls) ? '+' : '-',
+             name, selector);
+    SimEventLogAppend(event);
+}
+
 void MSHookMessageEx(Class _class, SEL message, IMP hook, IMP *old)
 {
+    recordHook(_class, message);
     if (_class == Nil || message == NULL || hook == NULL) {
         if (old) *old = NULL;
         return;

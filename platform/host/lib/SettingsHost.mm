@@ -58,6 +58,7 @@ NSBundle *SettingsHostLoadPreferenceBundle(void) {
   if (![name isKindOfClass:[NSString class]]) return nil;
   NSString *bundleDevicePath = jailPath([NSString stringWithFormat:@"/Library/PreferenceBundles/%@.bundle", name]);
   NSBundle *bundle = [NSBundle bundleWithPath:hostPath(bundleDevicePath)];
+  SimEventLogAppend([[@"load " stringByAppendingString:[bundleDevicePath lastPathComponent]] UTF8String]);
   if (![bundle load]) return nil;
   return bundle;
 }

@@ -59,6 +59,10 @@ unsigned SimNotifyRegistrationCount(const char *name);
 /* Number of IOServiceGetMatchingService calls made in this process. */
 unsigned SimIOKitMatchCount(void);
 
+/* The process's ordered record of platform calls (see SimEventLog below); the Settings host
+   adds "load <bundle name>" before it loads a preference bundle. */
+void SimEventLogAppend(const char *event);
+
 /* Runs the calling thread's run loop (the main one, in practice) for `seconds`. */
 void SimRunLoopRunFor(double seconds);
 
@@ -78,6 +82,11 @@ void SimSpringBoardStop(pid_t pid);
 #import <Foundation/Foundation.h>
 /* The profile of the device in use (an immutable dictionary; empty when none). */
 FOUNDATION_EXPORT NSDictionary *SimDeviceProfile(void);
+/* What this process asked of the platform, in order, one string each:
+   "MSHookMessageEx -[Class selector]" (or "+[...]" on a metaclass), "notify_register_check NAME"
+   (and _plain, _dispatch), "NSLog MESSAGE", "operatingSystemVersionString" (each read),
+   "load NAME" (the Settings host loading a bundle). Kept for the life of the process. */
+FOUNDATION_EXPORT NSArray *SimEventLog(void);
 /* Runs the run loop until `condition` returns YES or `timeout` seconds pass; returns the last answer. */
 FOUNDATION_EXPORT BOOL SimRunLoopRunUntil(BOOL (^condition)(void), double timeout);
 #endif
