@@ -1,7 +1,13 @@
-// The bundle's way in and out of the product's preference domain. Every write a
-// page makes is followed by postPrefsChanged() so SpringBoard re-reads the domain.
+// The bundle's way in and out of the product's preference domain. Pages name
+// keys by their entries in the key table (core/PreferenceKeys.hpp) and write
+// them with storePreference, which posts the change signal, so SpringBoard
+// re-reads the domain, exactly when the table says so.
 #pragma once
 #import <Foundation/Foundation.h>
+
+#ifdef __cplusplus
+#include "core/PreferenceKeys.hpp"
+#endif
 
 // Plain C entry points, so tools and tests can find them by name.
 #ifdef __cplusplus
@@ -25,5 +31,10 @@ BOOL gracePeriodIsActive(void);
 void resetAllPreferences(void);
 
 #ifdef __cplusplus
+// setPrefsValueForKey under the entry's key (nil removes it), then the change
+// signal when the entry's writes are announced (postsChangeSignal).
+void storePreference(id value, const tessarin::PreferenceKey *entry);
+// prefsValueForKey under the entry's key: autoreleased, nil when absent.
+id storedPreference(const tessarin::PreferenceKey *entry);
 }
 #endif

@@ -45,6 +45,16 @@ id prefsValueForKey(const char *key) {
   return [getPrefsValueForKey(key) autorelease];
 }
 
+void storePreference(id value, const tessarin::PreferenceKey *entry) {
+  if (entry == NULL) return;
+  setPrefsValueForKey(value, entry->name());
+  if (tessarin::postsChangeSignal(*entry)) postPrefsChanged();
+}
+
+id storedPreference(const tessarin::PreferenceKey *entry) {
+  return entry != NULL ? prefsValueForKey(entry->name()) : nil;
+}
+
 void postPrefsChanged(void) {
   notify_post(tessarin::kPrefsChangedNotification);
 }
@@ -62,5 +72,5 @@ BOOL gracePeriodIsActive(void) {
 
 void resetAllPreferences(void) {
   [[NSUserDefaults standardUserDefaults] removePersistentDomainForName:@(tessarin::kDomain)];
-  postPrefsChanged();
+  if (tessarin::kResetAllPostsChangeSignal) postPrefsChanged();
 }

@@ -147,7 +147,6 @@ inline constexpr unsigned long kFlexibleSizeMask = 18;  // flexible width | flex
 inline constexpr int kDigitEntryFields = 4;
 inline constexpr int kSixDigitEntryFields = 6;
 inline constexpr double kLabelFontSize = 14.0;
-inline constexpr const char *kPasscodeKey = "passcode";
 // Pages of this class are left out of the delayed refresh.
 inline constexpr const char *kRootListClassName = "PrefsListController";
 

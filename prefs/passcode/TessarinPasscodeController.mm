@@ -174,8 +174,7 @@ void setCentreX(UIView *view, CGFloat x) {
 
 - (void)commitPasscode:(NSString *)value {
   [[UIApplication sharedApplication] beginIgnoringInteractionEvents];
-  setPrefsValueForKey(value, kPasscodeKey);
-  postPrefsChanged();
+  storePreference(value, &tessarin::key::kPasscode);
 
   UIViewController *page = [settingsRootController() topViewController];
   if (page == nil) page = _parent;

@@ -39,8 +39,7 @@ PSSpecifier *footerGroup(NSString *footer) {
 void resetPasscode(CFNotificationCenterRef center, void *observer, CFStringRef name, const void *object,
                    CFDictionaryRef userInfo) {
   NSAutoreleasePool *pool = [[NSAutoreleasePool alloc] init];
-  setPrefsValueForKey(nil, kPasscodeKey);
-  postPrefsChanged();
+  storePreference(nil, &tessarin::key::kPasscode);
   UIViewController *top = [settingsRootController() topViewController];
   if ([top respondsToSelector:@selector(reloadSpecifiers)]) [top performSelector:@selector(reloadSpecifiers)];
   scheduleSettingsPagesReload(kChildRefreshDelay);
@@ -53,7 +52,7 @@ void resetPasscode(CFNotificationCenterRef center, void *observer, CFStringRef n
   if ([_specifiers count] != 0) return (NSMutableArray *)_specifiers;
 
   NSArray *loaded = [self loadSpecifiersFromPlistName:stringOf(std::string_view(kSettingsPlistName)) target:self];
-  id stored = prefsValueForKey(kPasscodeKey);
+  id stored = storedPreference(&tessarin::key::kPasscode);
 
   SettingsContext context;
   context.passcodeStored = stored != nil;

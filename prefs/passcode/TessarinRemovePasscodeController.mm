@@ -9,7 +9,7 @@ namespace {
 
 // The stored passcode, when it is a string (anything else never matches).
 NSString *storedPasscode(void) {
-  id value = prefsValueForKey(kPasscodeKey);
+  id value = storedPreference(&tessarin::key::kPasscode);
   return [value isKindOfClass:[NSString class]] ? value : nil;
 }
 

@@ -54,7 +54,7 @@ std::optional<long long> integerEntry(NSDictionary *reply, NSString *key) {
   return [value longLongValue];
 }
 
-BOOL productPasscodeStored(void) { return prefsValueForKey("passcode") != nil; }
+BOOL productPasscodeStored(void) { return storedPreference(&tessarin::key::kPasscode) != nil; }
 
 // The device passcode's characteristics from the passcode manager; nothing when the
 // device has no passcode (or the manager is missing).
@@ -292,7 +292,7 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
   }
 
   // Read as SpringBoard reads it; the rows are the same either way.
-  (void)prefsValueForKey("Enabled");
+  (void)storedPreference(&tessarin::key::kEnabled);
 
   _specifiers = [rows copy];
   return _specifiers;

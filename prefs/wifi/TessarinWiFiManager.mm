@@ -1,6 +1,7 @@
 #import "wifi/TessarinWiFiManager.h"
 #import "core/PlatformAPI.h"
 #include "core/Names.hpp"
+#include "core/PreferenceKeys.hpp"
 #include "wifi/WiFiNetworks.hpp"
 
 namespace wifi = tessarin::wifi;
@@ -97,7 +98,7 @@ NSArray *arrayFromCopy(CFArrayRef copied) {
 - (BOOL)isOnTrustedNetwork {
   CFStringRef domain = (CFStringRef)@(tessarin::kDomain);
   CFPreferencesAppSynchronize(domain);
-  id stored = [(id)CFPreferencesCopyAppValue((CFStringRef)@"allowedWiFis", domain) autorelease];
+  id stored = [(id)CFPreferencesCopyAppValue((CFStringRef)@(tessarin::key::kAllowedWiFis.name()), domain) autorelease];
   std::vector<wifi::TrustedEntry> trusted;
   if ([stored isKindOfClass:[NSArray class]]) {
     for (id entry in (NSArray *)stored) {
