@@ -31,14 +31,13 @@ TessarinPrefs_INSTALL_PATH = /Library/PreferenceBundles
 TessarinPrefs_RESOURCE_DIRS = resources
 
 # Manual reference counting, as in the Linux build. The include paths mirror the
-# CMake targets ("core/Names.hpp" resolves against prefs/).
-# Deprecated UIKit/Foundation calls (openURL:, unarchiveObjectWithData:,
-# beginIgnoringInteractionEvents, ...) are kept on purpose for iOS 12; they warn, and
-# must not fail the build.
+# CMake targets ("core/Names.hpp" resolves against prefs/). Theos builds with -Wall
+# -Werror: a call deprecated at the iOS 12 deployment target fails the build like any
+# other warning (calls deprecated only later, such as beginIgnoringInteractionEvents in
+# iOS 13, do not warn at this target).
 TessarinPrefs_CFLAGS = -fno-objc-arc \
 	-I$(THEOS_PROJECT_DIR)/prefs -I$(THEOS_PROJECT_DIR) \
-	-DTESSARIN_SIMULATED=0 \
-	-Wno-error=deprecated-declarations
+	-DTESSARIN_SIMULATED=0
 # Theos hands _CCFLAGS to C++ and Objective-C++ sources alike.
 TessarinPrefs_CCFLAGS = -std=c++17
 
