@@ -20,7 +20,7 @@ BOOL springBoardEmergency = NO;
 
 namespace {
 
-using namespace tessarin::root;
+namespace root = tessarin::root;
 
 // The root page that last built its rows; not retained, cleared when it goes away.
 TessarinPrefsListController *sharedRootPage = nil;
@@ -58,7 +58,7 @@ BOOL productPasscodeStored(void) { return storedPreference(&tessarin::key::kPass
 
 // The device passcode's characteristics from the passcode manager; nothing when the
 // device has no passcode (or the manager is missing).
-std::optional<PasscodeCharacteristics> devicePasscodeCharacteristics(void) {
+std::optional<root::PasscodeCharacteristics> devicePasscodeCharacteristics(void) {
   Class managerClass = NSClassFromString(@"MCPasscodeManager");
   MCPasscodeManager *manager = [managerClass sharedManager];
   if (manager == nil) return std::nullopt;
@@ -72,7 +72,7 @@ std::optional<PasscodeCharacteristics> devicePasscodeCharacteristics(void) {
     characteristics = dictionaryOrNil([manager _passcodeCharacteristics]);
   }
   if (characteristics == nil) return std::nullopt;
-  PasscodeCharacteristics result;
+  root::PasscodeCharacteristics result;
   id allDigits = [characteristics objectForKey:@"allDigits"];
   id hasAlpha = [characteristics objectForKey:@"hasAlpha"];
   result.allDigits = [allDigits respondsToSelector:@selector(boolValue)] && [allDigits boolValue];
@@ -83,8 +83,8 @@ std::optional<PasscodeCharacteristics> devicePasscodeCharacteristics(void) {
 
 bool classExists(std::string_view name) { return NSClassFromString(string(name)) != Nil; }
 
-FileProbe deviceFileProbe(void) {
-  FileProbe probe;
+root::FileProbe deviceFileProbe(void) {
+  root::FileProbe probe;
   probe.exists = [](std::string_view path) { return deviceFileExists(string(path)) ? true : false; };
   probe.jailRoot = [](std::string_view path) { return stdString(jbroot(string(path))); };
   return probe;
@@ -144,11 +144,11 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
 }  // namespace
 
 @interface TessarinPrefsListController ()
-- (void)performEffect:(Effect)effect;
-- (void)setUpDeviceAuthenticationFrom:(SetupOrigin)origin;
+- (void)performEffect:(root::Effect)effect;
+- (void)setUpDeviceAuthenticationFrom:(root::SetupOrigin)origin;
 - (void)pushPasscodeSettings;
 - (void)presentUserPasscodeControllerNamed:(std::string_view)className;
-- (void)showAlert:(const Alert &)alert from:(UIViewController *)presenter;
+- (void)showAlert:(const root::Alert &)alert from:(UIViewController *)presenter;
 @end
 
 @implementation TessarinPrefsListController
@@ -181,18 +181,18 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
     cachedLibraryVersion = (uint32_t)version.value_or(0);
   }
   const bool supported = tessarin::isSupportedSystem(stdString(systemVersionString()));
-  if (std::optional<std::string_view> footer = singleGroupFooter(cachedLibraryVersion, supported)) {
+  if (std::optional<std::string_view> footer = root::singleGroupFooter(cachedLibraryVersion, supported)) {
     PSSpecifier *group = [PSSpecifier groupSpecifierWithName:nil];
     [group setProperty:string(*footer) forKey:@"footerText"];
     _specifiers = [[NSArray alloc] initWithObjects:group, nil];
     return _specifiers;
   }
 
-  RootPageFacts facts;
-  facts.biometricsSet = biometricsSet(integerEntry(askSpringBoard(tessarin::message::kBiometricsEnrolled), @"idsn"));
+  root::RootPageFacts facts;
+  facts.biometricsSet = root::biometricsSet(integerEntry(askSpringBoard(tessarin::message::kBiometricsEnrolled), @"idsn"));
   facts.productPasscodeSet = productPasscodeStored();
 
-  NSArray *loaded = [self loadSpecifiersFromPlistName:string(kRowsPlistName) target:self];
+  NSArray *loaded = [self loadSpecifiersFromPlistName:string(root::kRowsPlistName) target:self];
   if (![loaded isKindOfClass:[NSArray class]]) loaded = [NSArray array];
   NSBundle *bundle = tessarinBundle();
   std::vector<std::string> loadedIds;
@@ -207,83 +207,83 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
   NSDictionary *again = askSpringBoard(tessarin::message::kLibraryVersion);
   if ([again objectForKey:@"dlbv"] == nil) {
     springBoardEmergency = YES;
-    [self showAlert:noSpringBoardAlert() from:self];
+    [self showAlert:root::noSpringBoardAlert() from:self];
   }
 
   facts.gracePeriod = gracePeriodIsActive();
   facts.trustedNetwork = [[TessarinWiFiManager sharedInstance] isOnTrustedNetwork];
   const BOOL sensor = iPhone64Bit();
-  facts.device = deviceFacts(sensor, hasPearl(), isPad(), systemVersion);
+  facts.device = root::deviceFacts(sensor, hasPearl(), isPad(), systemVersion);
   if (sensor) facts.devicePasscode = devicePasscodeCharacteristics();
 
-  const RootRowsPlan plan = planRootRows(loadedIds, facts, deviceFileProbe(), classExists);
+  const root::RootRowsPlan plan = planRootRows(loadedIds, facts, deviceFileProbe(), classExists);
 
   NSMutableArray *rows = [NSMutableArray array];
-  for (const PlannedRow &planned : plan.rows) {
+  for (const root::PlannedRow &planned : plan.rows) {
     PSSpecifier *row = nil;
     switch (planned.kind) {
-      case PlannedRowKind::Loaded:
+      case root::PlannedRowKind::Loaded:
         row = [loaded objectAtIndex:planned.loadedIndex];
-        if (planned.action == RowAction::KeepWithoutFooter) [row removePropertyForKey:@"footerText"];
-        if (planned.action == RowAction::KeepAsResetTarget) {
+        if (planned.action == root::RowAction::KeepWithoutFooter) [row removePropertyForKey:@"footerText"];
+        if (planned.action == root::RowAction::KeepAsResetTarget) {
           TessarinPrefsListController *page = self;
           [row setProperty:[NSValue value:&page withObjCType:@encode(id)] forKey:@"target"];
           [row setTarget:self];
           if ([row buttonAction] == NULL) [row setButtonAction:@selector(resetAllTessarinSettings:)];
         }
         break;
-      case PlannedRowKind::WarningGroup:
+      case root::PlannedRowKind::WarningGroup:
         row = [PSSpecifier emptyGroupSpecifier];
-        setIdentifier(row, kTrustedWarningGroupId);
+        setIdentifier(row, root::kTrustedWarningGroupId);
         break;
-      case PlannedRowKind::Warning:
+      case root::PlannedRowKind::Warning:
         row = [PSSpecifier preferenceSpecifierNamed:string(plan.warning->title)
                                              target:self
                                                 set:NULL
                                                 get:NULL
                                              detail:Nil
-                                               cell:(PSCellType)kStaticTextCellType
+                                               cell:(PSCellType)root::kStaticTextCellType
                                                edit:Nil];
         [row setProperty:[TessarinTrustedWiFiWarningCell class] forKey:@"cellClass"];
         [row setProperty:@(plan.warning->height) forKey:@"height"];
-        setIdentifier(row, kTrustedWarningId);
+        setIdentifier(row, root::kTrustedWarningId);
         break;
-      case PlannedRowKind::DeviceAuthGroup:
-      case PlannedRowKind::CreditsGroup:
+      case root::PlannedRowKind::DeviceAuthGroup:
+      case root::PlannedRowKind::CreditsGroup:
         row = [PSSpecifier emptyGroupSpecifier];
         break;
-      case PlannedRowKind::DeviceAuth: {
-        const DeviceAuthRow &auth = *plan.deviceAuth;
+      case root::PlannedRowKind::DeviceAuth: {
+        const root::DeviceAuthRow &auth = *plan.deviceAuth;
         Class detail = auth.detailClass.empty() ? Nil : NSClassFromString(string(auth.detailClass));
         row = [PSSpecifier preferenceSpecifierNamed:string(auth.name)
                                              target:self
                                                 set:NULL
                                                 get:NULL
                                              detail:detail
-                                               cell:(PSCellType)kDeviceAuthCellType
+                                               cell:(PSCellType)root::kDeviceAuthCellType
                                                edit:Nil];
         if (!auth.loadAction.empty()) [row setControllerLoadAction:NSSelectorFromString(string(auth.loadAction))];
         break;
       }
-      case PlannedRowKind::Credits:
-        row = [PSSpecifier preferenceSpecifierNamed:string(kCreditsText)
+      case root::PlannedRowKind::Credits:
+        row = [PSSpecifier preferenceSpecifierNamed:string(root::kCreditsText)
                                              target:self
                                                 set:NULL
                                                 get:NULL
                                              detail:Nil
-                                               cell:(PSCellType)kCreditsCellType
+                                               cell:(PSCellType)root::kCreditsCellType
                                                edit:Nil];
         [row setProperty:[TessarinCreditsCell class] forKey:@"cellClass"];
-        [row setProperty:@(kCreditsAlignment) forKey:@"alignment"];
+        [row setProperty:@(root::kCreditsAlignment) forKey:@"alignment"];
         break;
-      case PlannedRowKind::MoreAppsGroup:
-        row = groupWithFooter(string(kMoreAppsFooter));
+      case root::PlannedRowKind::MoreAppsGroup:
+        row = groupWithFooter(string(root::kMoreAppsFooter));
         [row setTarget:self];
-        [row setButtonAction:NSSelectorFromString(string(kMoreAppsAction))];
-        [row setProperty:string(kMoreAppsFooterCellClass) forKey:@"footerCellClass"];
-        [row setProperty:@(kMoreAppsHeight) forKey:@"height"];
+        [row setButtonAction:NSSelectorFromString(string(root::kMoreAppsAction))];
+        [row setProperty:string(root::kMoreAppsFooterCellClass) forKey:@"footerCellClass"];
+        [row setProperty:@(root::kMoreAppsHeight) forKey:@"height"];
         // The footer view shows this text.
-        [row setProperty:string(kMoreAppsFooter) forKey:string(tessarin::root::label_view::kTextProperty)];
+        [row setProperty:string(root::kMoreAppsFooter) forKey:string(tessarin::root::label_view::kTextProperty)];
         break;
     }
     if (row == nil) continue;
@@ -300,7 +300,7 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
 
 - (void)setPreferenceValue:(id)value specifier:(PSSpecifier *)specifier {
   [super setPreferenceValue:value specifier:specifier];
-  if ([[specifier identifier] isEqualToString:string(kKeepSessionId)]) [self reloadSpecifiers];
+  if ([[specifier identifier] isEqualToString:string(root::kKeepSessionId)]) [self reloadSpecifiers];
 }
 
 #pragma mark - View
@@ -312,11 +312,11 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
   NSDictionary *appsReply = askSpringBoard(tessarin::message::kApplications);
   [self setInstalledApps:[appsReply objectForKey:@"apps"]];
 
-  NSString *noPasscodeSet = localizedString(string(kNoPasscodeSetKey), string(kNoPasscodeSetDefault));
-  NSString *no = localizedString(string(kNoKey), string(kNoDefault));
+  NSString *noPasscodeSet = localizedString(string(root::kNoPasscodeSetKey), string(root::kNoPasscodeSetDefault));
+  NSString *no = localizedString(string(root::kNoKey), string(root::kNoDefault));
   const std::string noPasscodeSetText = stdString(noPasscodeSet);
   const std::string noText = stdString(no);
-  FirstRunFacts facts;
+  root::FirstRunFacts facts;
   facts.idsnReplied = idsnReply != nil;
   facts.idsnValue = integerEntry(idsnReply, @"idsn").value_or(0);
   facts.appsPresent = [self installedApps] != nil;
@@ -325,20 +325,20 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
   facts.faceID = hasPearl();
   facts.noPasscodeSetText = noPasscodeSetText;
   facts.noText = noText;
-  if (std::optional<Alert> prompt = firstRunPrompt(facts)) [self showAlert:*prompt from:self];
+  if (std::optional<root::Alert> prompt = firstRunPrompt(facts)) [self showAlert:*prompt from:self];
 
   const CGFloat width = [[self view] frame].size.width;
-  const tessarin::root::Rect headerFrame = header::headerFrame(width);
-  const tessarin::root::Rect labelFrame = header::versionLabelFrame(width);
+  const root::Rect headerFrame = root::header::headerFrame(width);
+  const root::Rect labelFrame = root::header::versionLabelFrame(width);
   UIView *headerView =
       [[UIView alloc] initWithFrame:CGRectMake(headerFrame.x, headerFrame.y, headerFrame.width, headerFrame.height)];
-  [headerView setClipsToBounds:header::kClipsToBounds];
+  [headerView setClipsToBounds:root::header::kClipsToBounds];
   UILabel *label =
       [[UILabel alloc] initWithFrame:CGRectMake(labelFrame.x, labelFrame.y, labelFrame.width, labelFrame.height)];
-  [label setFont:[UIFont systemFontOfSize:header::kFontSize]];
-  [label setTextAlignment:(NSTextAlignment)header::kAlignment];
+  [label setFont:[UIFont systemFontOfSize:root::header::kFontSize]];
+  [label setTextAlignment:(NSTextAlignment)root::header::kAlignment];
   [label setTextColor:[UIColor lightGrayColor]];
-  const std::string version = versionText(cachedLibraryVersion);
+  const std::string version = root::versionText(cachedLibraryVersion);
   if (!version.empty()) [label setText:string(version)];
   [headerView addSubview:label];
   [self setHeaderView:headerView];
@@ -350,7 +350,7 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
 
 - (void)viewDidLayoutSubviews {
   [super viewDidLayoutSubviews];
-  const tessarin::root::Rect frame = header::versionLabelFrame([[self view] frame].size.width);
+  const root::Rect frame = root::header::versionLabelFrame([[self view] frame].size.width);
   [_versionLabel setFrame:CGRectMake(frame.x, frame.y, frame.width, frame.height)];
 }
 
@@ -361,15 +361,15 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
 #pragma mark - Actions
 
 - (void)resetAllTessarinSettings:(PSSpecifier *)specifier {
-  [self showAlert:resetQuestionAlert() from:self];
+  [self showAlert:root::resetQuestionAlert() from:self];
 }
 
 - (void)loadUserPasswordController {
-  [self presentUserPasscodeControllerNamed:kUserPasscodeControllerClass];
+  [self presentUserPasscodeControllerNamed:root::kUserPasscodeControllerClass];
 }
 
 - (void)loadUserComplexPasswordController {
-  [self presentUserPasscodeControllerNamed:kUserComplexPasscodeControllerClass];
+  [self presentUserPasscodeControllerNamed:root::kUserComplexPasscodeControllerClass];
 }
 
 - (void)infoTapped:(id)sender {
@@ -380,52 +380,52 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
 }
 
 - (void)alertView:(id)alertView clickedButtonAtIndex:(NSInteger)buttonIndex {
-  const Effect effect = alertViewButtonEffect(iPhone64Bit(), buttonIndex);
-  if (effect == Effect::SetUpDeviceAuthentication)
-    [self setUpDeviceAuthenticationFrom:SetupOrigin::AlertViewButton];
+  const root::Effect effect = root::alertViewButtonEffect(iPhone64Bit(), buttonIndex);
+  if (effect == root::Effect::SetUpDeviceAuthentication)
+    [self setUpDeviceAuthenticationFrom:root::SetupOrigin::AlertViewButton];
   else
     [self performEffect:effect];
 }
 
 #pragma mark - Helpers
 
-- (void)showAlert:(const Alert &)alert from:(UIViewController *)presenter {
+- (void)showAlert:(const root::Alert &)alert from:(UIViewController *)presenter {
   NSMutableArray *actions = [NSMutableArray array];
-  for (const AlertButton &button : alert.buttons) {
-    const Effect effect = button.effect;
+  for (const root::AlertButton &button : alert.buttons) {
+    const root::Effect effect = button.effect;
     void (^handler)(UIAlertAction *) = nil;
-    if (effect != Effect::Nothing) {
+    if (effect != root::Effect::Nothing) {
       handler = ^(UIAlertAction *action) {
         [self performEffect:effect];
       };
     }
     UIAlertActionStyle style =
-        button.style == ActionStyle::Cancel ? UIAlertActionStyleCancel : UIAlertActionStyleDefault;
+        button.style == root::ActionStyle::Cancel ? UIAlertActionStyleCancel : UIAlertActionStyleDefault;
     [actions addObject:[UIAlertAction actionWithTitle:string(button.title) style:style handler:handler]];
   }
   showAlertWithTitleAndMessageAndAlertActionsFromViewControllerWithStyle(
       string(alert.title), string(alert.message), actions, presenter, UIAlertControllerStyleAlert);
 }
 
-- (void)performEffect:(Effect)effect {
+- (void)performEffect:(root::Effect)effect {
   switch (effect) {
-    case Effect::Nothing:
+    case root::Effect::Nothing:
       break;
-    case Effect::SetUpDeviceAuthentication:
+    case root::Effect::SetUpDeviceAuthentication:
       dispatch_async(dispatch_get_main_queue(), ^{
-        [self setUpDeviceAuthenticationFrom:SetupOrigin::Prompt];
+        [self setUpDeviceAuthenticationFrom:root::SetupOrigin::Prompt];
       });
       break;
-    case Effect::PushPasscodeSettings:
+    case root::Effect::PushPasscodeSettings:
       dispatch_async(dispatch_get_main_queue(), ^{
         [self pushPasscodeSettings];
       });
       break;
-    case Effect::ResetAllSettings:
+    case root::Effect::ResetAllSettings:
       resetAllPreferences();
-      [self showAlert:resetDoneAlert() from:self];
+      [self showAlert:root::resetDoneAlert() from:self];
       break;
-    case Effect::LeaveProductSettings: {
+    case root::Effect::LeaveProductSettings: {
       UIViewController *parent = [[self navigationController] parentViewController];
       if ([parent respondsToSelector:@selector(popViewControllerAnimated:)])
         [(UINavigationController *)parent popViewControllerAnimated:YES];
@@ -435,7 +435,7 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
 }
 
 - (void)pushPasscodeSettings {
-  Class pageClass = NSClassFromString(string(kPasscodeSettingsControllerClass));
+  Class pageClass = NSClassFromString(string(root::kPasscodeSettingsControllerClass));
   UINavigationController *root = settingsRootController();
   if (pageClass == Nil || root == nil) return;
   UIViewController *page = [[pageClass alloc] init];
@@ -454,15 +454,15 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
   [page release];
 }
 
-- (void)setUpDeviceAuthenticationFrom:(SetupOrigin)origin {
-  SetupFacts facts;
+- (void)setUpDeviceAuthenticationFrom:(root::SetupOrigin)origin {
+  root::SetupFacts facts;
   facts.faceID = hasPearl();
   facts.devicePasscode = devicePasscodeCharacteristics();
   facts.iOS14 = systemVersion.iOS14;
   facts.iOS16 = systemVersion.iOS16;
   facts.deviceCornerRadius = deviceCornerRadius();
-  facts.loaderAppInstalled = appsContain([self installedApps], string(kLoaderAppId));
-  const SetupDecision decision = setupDecision(facts, origin);
+  facts.loaderAppInstalled = appsContain([self installedApps], string(root::kLoaderAppId));
+  const root::SetupDecision decision = setupDecision(facts, origin);
 
   if (!decision.userPasscodeControllerClass.empty()) {
     [self presentUserPasscodeControllerNamed:decision.userPasscodeControllerClass];
@@ -479,7 +479,7 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
   if (decision.pushSystemPage && systemPage != nil) [settingsRootController() pushViewController:systemPage animated:YES];
   if (decision.notice) {
     UIViewController *presenter =
-        decision.noticeFrom == NoticeFrom::PushedPage && systemPage != nil ? systemPage : (UIViewController *)self;
+        decision.noticeFrom == root::NoticeFrom::PushedPage && systemPage != nil ? systemPage : (UIViewController *)self;
     [self showAlert:*decision.notice from:presenter];
   }
 }
