@@ -3,7 +3,7 @@
 #import "core/PreferenceStore.h"
 #include "passcode/SetPasscodeFlow.hpp"
 
-using namespace tessarin::passcode;
+namespace passcode = tessarin::passcode;
 
 namespace {
 
@@ -55,7 +55,7 @@ void setCentreX(UIView *view, CGFloat x) {
 }
 
 - (NSUInteger)supportedInterfaceOrientations {
-  return kPortraitOnlyMask;
+  return passcode::kPortraitOnlyMask;
 }
 
 - (BOOL)usesDarkAppearance {
@@ -79,28 +79,28 @@ void setCentreX(UIView *view, CGFloat x) {
   self.pass1 = nil;
   self.pass2 = nil;
   delete _setFlow;
-  _setFlow = new SetPasscodeFlow();
+  _setFlow = new passcode::SetPasscodeFlow();
 
-  UIView *root = [[[UIView alloc] initWithFrame:passcodeRect(rootViewFrame(width))] autorelease];
-  [root setAutoresizingMask:kFlexibleSizeMask];
-  [root setBackgroundColor:passcodeColour([self usesDarkAppearance] ? kDarkBackground : kLightBackground)];
+  UIView *root = [[[UIView alloc] initWithFrame:passcodeRect(passcode::rootViewFrame(width))] autorelease];
+  [root setAutoresizingMask:passcode::kFlexibleSizeMask];
+  [root setBackgroundColor:passcodeColour([self usesDarkAppearance] ? passcode::kDarkBackground : passcode::kLightBackground)];
   if ([self respondsToSelector:@selector(setView:)]) [self setView:root];
 
-  PSPasscodeField *field = [[[PSPasscodeField alloc] initWithNumberOfEntryFields:kDigitEntryFields] autorelease];
-  [field setFrame:passcodeRect(digitFieldFrame(width))];
+  PSPasscodeField *field = [[[PSPasscodeField alloc] initWithNumberOfEntryFields:passcode::kDigitEntryFields] autorelease];
+  [field setFrame:passcodeRect(passcode::digitFieldFrame(width))];
   [field setSecurePasscodeEntry:YES];
   [field setDelegate:self];
   self.passcodeField = field;
 
-  self.label = passcodePageLabel(promptFrame(width), passcodePageText(SetPasscodeFlow::initialPrompt()));
-  self.warnLabel = passcodePageLabel(warningFrame(width), @"");
+  self.label = passcodePageLabel(passcode::promptFrame(width), passcodePageText(passcode::SetPasscodeFlow::initialPrompt()));
+  self.warnLabel = passcodePageLabel(passcode::warningFrame(width), @"");
 
   [root addSubview:field];
   [root addSubview:self.label];
   [root addSubview:self.warnLabel];
 
-  [self setTitle:passcodePageText(SetPasscodeFlow::title())];
-  UIBarButtonItem *cancel = [[[UIBarButtonItem alloc] initWithTitle:passcodePageText(text::kCancel)
+  [self setTitle:passcodePageText(passcode::SetPasscodeFlow::title())];
+  UIBarButtonItem *cancel = [[[UIBarButtonItem alloc] initWithTitle:passcodePageText(passcode::text::kCancel)
                                                               style:UIBarButtonItemStylePlain
                                                              target:self
                                                              action:@selector(cancelAndCleanup)] autorelease];
@@ -125,33 +125,33 @@ void setCentreX(UIView *view, CGFloat x) {
 
 - (void)passcodeField:(PSPasscodeField *)field enteredPasscode:(NSString *)passcode {
   CGPoint centre = [[self view] center];
-  if (_setFlow == nullptr) _setFlow = new SetPasscodeFlow();
-  Step step = _setFlow->enter(passcodeEntryView(passcode));
+  if (_setFlow == nullptr) _setFlow = new passcode::SetPasscodeFlow();
+  passcode::Step step = _setFlow->enter(passcodeEntryView(passcode));
   // pass1 holds the first entry while the page asks for it again.
-  self.pass1 = _setFlow->state() == SetPasscodeFlow::State::Reenter ? [[stringOf(passcode) copy] autorelease] : nil;
+  self.pass1 = _setFlow->state() == passcode::SetPasscodeFlow::State::Reenter ? [[stringOf(passcode) copy] autorelease] : nil;
   [self carryOutStep:step centre:centre];
 }
 
-- (void)carryOutStep:(const Step &)step centre:(CGPoint)centre {
+- (void)carryOutStep:(const passcode::Step &)step centre:(CGPoint)centre {
   if (step.playErrorSound) playPasscodeErrorSound();
   NSString *prompt = passcodePageText(step.prompt);
   NSString *warning = passcodePageText(step.warning);
   switch (step.transition) {
-    case Transition::Slide:
+    case passcode::Transition::Slide:
       [self slideToPrompt:prompt centre:centre];
       break;
-    case Transition::Shake:
+    case passcode::Transition::Shake:
       [self shakeMove:0 centre:centre prompt:prompt warning:warning];
       break;
-    case Transition::None:
+    case passcode::Transition::None:
       break;
   }
-  if (step.commit == Commit::Store) {
+  if (step.commit == passcode::Commit::Store) {
     NSString *value = [[[NSString alloc] initWithBytes:step.value.data()
                                                 length:step.value.size()
                                               encoding:NSUTF8StringEncoding] autorelease];
     [self commitPasscode:value];
-  } else if (step.commit == Commit::Remove) {
+  } else if (step.commit == passcode::Commit::Remove) {
     [self commitPasscode:nil];
   }
   if (step.refuse) {
@@ -159,7 +159,7 @@ void setCentreX(UIView *view, CGFloat x) {
     [_label setText:prompt];
     [_passcodeField setAlpha:0.0];
     [[UIApplication sharedApplication] beginIgnoringInteractionEvents];
-    [self performSelector:@selector(dismissSelf) withObject:nil afterDelay:kRefuseDismissDelay];
+    [self performSelector:@selector(dismissSelf) withObject:nil afterDelay:passcode::kRefuseDismissDelay];
   }
 }
 
@@ -178,12 +178,12 @@ void setCentreX(UIView *view, CGFloat x) {
 
   UIViewController *page = [settingsRootController() topViewController];
   if (page == nil) page = _parent;
-  scheduleSettingsPagesReload(kChildRefreshDelay);
+  scheduleSettingsPagesReload(passcode::kChildRefreshDelay);
   if ([page respondsToSelector:@selector(reloadSpecifiers)]) {
     [page performSelector:@selector(reloadSpecifiers)];
-    [page performSelector:@selector(reloadSpecifiers) withObject:nil afterDelay:kTopRefreshDelay];
+    [page performSelector:@selector(reloadSpecifiers) withObject:nil afterDelay:passcode::kTopRefreshDelay];
   }
-  [self performSelector:@selector(dismissSelf) withObject:nil afterDelay:kCommitDismissDelay];
+  [self performSelector:@selector(dismissSelf) withObject:nil afterDelay:passcode::kCommitDismissDelay];
 }
 
 - (void)dismissSelf {
@@ -205,20 +205,20 @@ void setCentreX(UIView *view, CGFloat x) {
 // Prompt and field leave to the left, jump to the right with the next
 // prompt and come back to the centre.
 - (void)slideToPrompt:(NSString *)prompt centre:(CGPoint)centre {
-  [UIView animateWithDuration:kSlideOutDuration
+  [UIView animateWithDuration:passcode::kSlideOutDuration
       delay:0
       options:UIViewAnimationOptionCurveEaseIn
       animations:^{
-        setOriginX(self->_label, kSlideOutOriginX);
-        setOriginX(self->_passcodeField, kSlideOutOriginX);
+        setOriginX(self->_label, passcode::kSlideOutOriginX);
+        setOriginX(self->_passcodeField, passcode::kSlideOutOriginX);
       }
       completion:^(BOOL finished) {
-        setOriginX(self->_label, kSlideReturnOriginX);
-        setOriginX(self->_passcodeField, kSlideReturnOriginX);
+        setOriginX(self->_label, passcode::kSlideReturnOriginX);
+        setOriginX(self->_passcodeField, passcode::kSlideReturnOriginX);
         [self->_warnLabel setText:@""];
         [self->_label setText:prompt];
         [self clearEntryField];
-        [UIView animateWithDuration:kSlideInDuration
+        [UIView animateWithDuration:passcode::kSlideInDuration
                               delay:0
                             options:UIViewAnimationOptionCurveEaseOut
                          animations:^{
@@ -232,14 +232,14 @@ void setCentreX(UIView *view, CGFloat x) {
 // Five short moves side to side, each started when the last one ends; the
 // last one shows the prompt and warning and empties the field.
 - (void)shakeMove:(int)move centre:(CGPoint)centre prompt:(NSString *)prompt warning:(NSString *)warning {
-  [UIView animateWithDuration:kShakeMoveDuration
+  [UIView animateWithDuration:passcode::kShakeMoveDuration
       animations:^{
-        CGFloat x = shakeCentreX(centre.x, move);
+        CGFloat x = passcode::shakeCentreX(centre.x, move);
         setCentreX(self->_label, x);
         setCentreX(self->_passcodeField, x);
       }
       completion:^(BOOL finished) {
-        if (move + 1 < kShakeMoves) {
+        if (move + 1 < passcode::kShakeMoves) {
           [self shakeMove:move + 1 centre:centre prompt:prompt warning:warning];
           return;
         }

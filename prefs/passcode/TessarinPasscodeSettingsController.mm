@@ -8,7 +8,7 @@
 #include "core/Names.hpp"
 #include "passcode/PasscodeSettingsRows.hpp"
 
-using namespace tessarin::passcode;
+namespace passcode = tessarin::passcode;
 
 namespace {
 
@@ -42,7 +42,7 @@ void resetPasscode(CFNotificationCenterRef center, void *observer, CFStringRef n
   storePreference(nil, &tessarin::key::kPasscode);
   UIViewController *top = [settingsRootController() topViewController];
   if ([top respondsToSelector:@selector(reloadSpecifiers)]) [top performSelector:@selector(reloadSpecifiers)];
-  scheduleSettingsPagesReload(kChildRefreshDelay);
+  scheduleSettingsPagesReload(passcode::kChildRefreshDelay);
   [pool release];
 }
 
@@ -51,25 +51,25 @@ void resetPasscode(CFNotificationCenterRef center, void *observer, CFStringRef n
 - (NSMutableArray *)specifiers {
   if ([_specifiers count] != 0) return (NSMutableArray *)_specifiers;
 
-  NSArray *loaded = [self loadSpecifiersFromPlistName:stringOf(std::string_view(kSettingsPlistName)) target:self];
+  NSArray *loaded = [self loadSpecifiersFromPlistName:stringOf(std::string_view(passcode::kSettingsPlistName)) target:self];
   id stored = storedPreference(&tessarin::key::kPasscode);
 
-  SettingsContext context;
+  passcode::SettingsContext context;
   context.passcodeStored = stored != nil;
   context.biometric = iPhone64Bit();
   context.faceID = hasPearl();
 
   NSMutableArray *rows = [NSMutableArray array];
-  SettingsFooter footer = settingsFooter(context);
+  passcode::SettingsFooter footer = settingsFooter(context);
   NSString *footerText = stringOf(footer.text);
   PSSpecifier *group = footerGroup(footerText);
   if (footer.hasLink) {
     [group setTarget:self];
-    [group setProperty:stringOf(std::string_view(kFooterCellClass)) forKey:@"footerCellClass"];
+    [group setProperty:stringOf(std::string_view(passcode::kFooterCellClass)) forKey:@"footerCellClass"];
     [group setProperty:NSStringFromRange(NSMakeRange(footer.linkLocation, footer.linkLength))
                 forKey:@"footerHyperlinkRange"];
     [group setProperty:footerText forKey:@"headerFooterHyperlinkButtonTitle"];
-    [group setProperty:stringOf(std::string_view(kFooterLinkAction)) forKey:@"footerHyperlinkAction"];
+    [group setProperty:stringOf(std::string_view(passcode::kFooterLinkAction)) forKey:@"footerHyperlinkAction"];
     id target = self;
     [group setProperty:[NSValue value:&target withObjCType:@encode(id)] forKey:@"footerHyperlinkTarget"];
   }
@@ -86,14 +86,14 @@ void resetPasscode(CFNotificationCenterRef center, void *observer, CFStringRef n
       ids.push_back(std::string());
     }
   }
-  for (const KeptRow &kept : keptSettingsRows(context, ids)) {
+  for (const passcode::KeptRow &kept : keptSettingsRows(context, ids)) {
     PSSpecifier *row = [loaded objectAtIndex:kept.index];
-    if (kept.action != RowAction::None) {
+    if (kept.action != passcode::RowAction::None) {
       [row setTarget:self];
       [row setButtonAction:NSSelectorFromString(stringOf(actionSelector(kept.action)))];
     }
     if (kept.renameForFaceID) {
-      NSString *name = stringOf(std::string_view(kUseOnlyFaceIDName));
+      NSString *name = stringOf(std::string_view(passcode::kUseOnlyFaceIDName));
       [row setProperty:name forKey:@"label"];
       [row setProperty:name forKey:@"name"];
       [row setName:name];
@@ -103,13 +103,13 @@ void resetPasscode(CFNotificationCenterRef center, void *observer, CFStringRef n
 
   [_specifiers release];
   _specifiers = [rows retain];
-  [[self navigationItem] setTitle:passcodePageText(text::kOptionsTitle)];
+  [[self navigationItem] setTitle:passcodePageText(passcode::text::kOptionsTitle)];
   return rows;
 }
 
 - (UINavigationItem *)navigationItem {
   UINavigationItem *item = [super navigationItem];
-  [item setTitle:passcodePageText(text::kOptionsTitle)];
+  [item setTitle:passcodePageText(passcode::text::kOptionsTitle)];
   return item;
 }
 

@@ -3,7 +3,7 @@
 #import "core/PreferenceStore.h"
 #include "passcode/ChangePasscodeFlow.hpp"
 
-using namespace tessarin::passcode;
+namespace passcode = tessarin::passcode;
 
 namespace {
 
@@ -38,15 +38,15 @@ std::optional<std::string> optionalOf(NSString *stored) {
   self.pass1 = nil;
   self.oldPass = storedPasscode();
   delete _removeFlow;
-  _removeFlow = new RemovePasscodeFlow(optionalOf(_oldPass));
-  [self.label setText:passcodePageText(RemovePasscodeFlow::initialPrompt())];
-  [self setTitle:passcodePageText(RemovePasscodeFlow::title())];
+  _removeFlow = new passcode::RemovePasscodeFlow(optionalOf(_oldPass));
+  [self.label setText:passcodePageText(passcode::RemovePasscodeFlow::initialPrompt())];
+  [self setTitle:passcodePageText(passcode::RemovePasscodeFlow::title())];
 }
 
 - (void)passcodeField:(PSPasscodeField *)field enteredPasscode:(NSString *)passcode {
   CGPoint centre = [[self view] center];
-  if (_removeFlow == nullptr) _removeFlow = new RemovePasscodeFlow(optionalOf(_oldPass));
-  Step step = _removeFlow->enter(passcodeEntryView(passcode));
+  if (_removeFlow == nullptr) _removeFlow = new passcode::RemovePasscodeFlow(optionalOf(_oldPass));
+  passcode::Step step = _removeFlow->enter(passcodeEntryView(passcode));
   [self carryOutStep:step centre:centre];
 }
 
@@ -74,23 +74,23 @@ std::optional<std::string> optionalOf(NSString *stored) {
   self.pass1 = nil;
   self.oldPass = storedPasscode();
   delete _changeFlow;
-  _changeFlow = new ChangePasscodeFlow(optionalOf(_oldPass));
-  [self.label setText:passcodePageText(ChangePasscodeFlow::initialPrompt())];
+  _changeFlow = new passcode::ChangePasscodeFlow(optionalOf(_oldPass));
+  [self.label setText:passcodePageText(passcode::ChangePasscodeFlow::initialPrompt())];
   // The title goes to `item`, which nothing assigns: the page keeps the add
   // page's title, as it always has.
-  [self.item setTitle:passcodePageText(text::kChangeTitle)];
+  [self.item setTitle:passcodePageText(passcode::text::kChangeTitle)];
 }
 
 - (void)passcodeField:(PSPasscodeField *)field enteredPasscode:(NSString *)passcode {
   CGPoint centre = [[self view] center];
-  if (_changeFlow == nullptr) _changeFlow = new ChangePasscodeFlow(optionalOf(_oldPass));
-  Step step = _changeFlow->enter(passcodeEntryView(passcode));
+  if (_changeFlow == nullptr) _changeFlow = new passcode::ChangePasscodeFlow(optionalOf(_oldPass));
+  passcode::Step step = _changeFlow->enter(passcodeEntryView(passcode));
   // pass1 marks the verified old passcode, pass2 the first new entry.
-  ChangePasscodeFlow::State state = _changeFlow->state();
+  passcode::ChangePasscodeFlow::State state = _changeFlow->state();
   NSString *entry = [[passcode copy] autorelease];
-  if (state == ChangePasscodeFlow::State::New && self.pass1 == nil) self.pass1 = entry;
-  if (state == ChangePasscodeFlow::State::Confirm) self.pass2 = entry;
-  if (state == ChangePasscodeFlow::State::New) self.pass2 = nil;
+  if (state == passcode::ChangePasscodeFlow::State::New && self.pass1 == nil) self.pass1 = entry;
+  if (state == passcode::ChangePasscodeFlow::State::Confirm) self.pass2 = entry;
+  if (state == passcode::ChangePasscodeFlow::State::New) self.pass2 = nil;
   [self carryOutStep:step centre:centre];
 }
 
