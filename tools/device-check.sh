@@ -9,7 +9,7 @@ top=$(cd "$(dirname "$0")/.." && pwd)
 work=$(mktemp -d); trap 'rm -rf "$work"' EXIT
 inc=$work/include; mkdir -p "$inc/mach" "$inc/MessageUI"
 for f in "$top"/platform/include/*; do
-  case $(basename "$f") in Preferences|PreferencesUI|AppSupport|ManagedConfiguration|IOKit|Simulator) ;;
+  case $(basename "$f") in Preferences|PreferencesUI|AppSupport|ManagedConfiguration|PassKit|IOKit|Simulator) ;;
     *) ln -s "$f" "$inc/$(basename "$f")";; esac
 done
 printf 'typedef unsigned int mach_port_t;\ntypedef int kern_return_t;\n' > "$inc/mach/mach.h"
