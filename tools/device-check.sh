@@ -44,7 +44,7 @@ sources=$(bundle_sources "$top") || { echo "device-build check: cannot read the 
 # Stand-in headers, less the private frameworks the device build declares in prefs/core/ios/.
 inc=$work/include; mkdir -p "$inc/mach"
 for f in "$top"/platform/include/*; do
-  case $(basename "$f") in Preferences|PreferencesUI|AppSupport|ManagedConfiguration|IOKit|Simulator|dlfcn.h) ;;
+  case $(basename "$f") in Preferences|PreferencesUI|AppSupport|ManagedConfiguration|PassKit|IOKit|Simulator|dlfcn.h) ;;
     *) ln -s "$f" "$inc/$(basename "$f")";; esac
 done
 ln -s "$here/include/MessageUI" "$inc/MessageUI"

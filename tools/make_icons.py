@@ -1,8 +1,11 @@
 #!/usr/bin/env python3
-"""Draws the settings bundle's icons: the Settings entry icon and one icon per root page row.
+"""Draws the settings bundle's icons and the unlock-button page's images.
 
-Each icon is a rounded square in the row's colour with a simple white mark, written as an
-8-bit RGBA PNG at 1x, 2x and 3x (29, 58 and 87 pixels). Run from the repository root:
+Each icon (the Settings entry icon and one per root page row) is a rounded square in the
+row's colour with a simple white mark, 29 points. The button images are marks on a clear
+background: the rings of the three buttons (70 points) and the fingerprints drawn inside
+them (60 points). Everything is written as 8-bit RGBA PNG at 1x, 2x and 3x. Run from the
+repository root:
     python3 tools/make_icons.py
 """
 import math
@@ -35,6 +38,16 @@ ICONS = {
     "AlertTitle": ((0, 122, 255), "bar"),
     "Logs": ((142, 142, 147), "lines"),
     "Reset": ((255, 59, 48), "dot"),
+}
+
+# name -> (size in points, colour, mark) for the unlock buttons.
+BUTTON_IMAGES = {
+    "circle-white": (70, (255, 255, 255), "circle"),
+    "circle-black": (70, (28, 28, 30), "circle"),
+    "circle-gold": (70, (212, 175, 55), "circle"),
+    "thumb-white": (60, (255, 255, 255), "print"),
+    "thumb-black": (60, (28, 28, 30), "print"),
+    "thumb-red": (60, (255, 45, 45), "print"),
 }
 
 
@@ -81,6 +94,12 @@ def in_mark(mark, u, v):
         r = math.hypot(u - 0.5, v - 0.78)
         up = v < 0.78 and abs(u - 0.5) < (0.78 - v) * 1.2
         return r <= 0.08 or (up and (0.25 <= r <= 0.33 or 0.45 <= r <= 0.53))
+    if mark == "circle":
+        return 0.43 <= d <= 0.49
+    if mark == "print":
+        # Concentric ridges, open at the bottom like a fingertip's.
+        ridge = any(abs(d - r) <= 0.025 for r in (0.08, 0.16, 0.24, 0.32, 0.40))
+        return ridge and not (dy > 0.1 and abs(dx) < dy * 0.45)
     if mark == "lock":
         body = abs(dx) <= 0.25 and 0.45 <= v <= 0.8
         shackle = v < 0.5 and 0.12 <= math.hypot(dx, v - 0.45) <= 0.2
@@ -117,12 +136,32 @@ def draw(colour, mark, size):
     return png(size, size, rows)
 
 
+def draw_mark(colour, mark, size):
+    """The mark alone in the colour, on a clear background."""
+    samples = 4
+    rows = []
+    for py in range(size):
+        row = []
+        for px in range(size):
+            hits = 0
+            for sy in range(samples):
+                for sx in range(samples):
+                    if in_mark(mark, (px + (sx + 0.5) / samples) / size, (py + (sy + 0.5) / samples) / size):
+                        hits += 1
+            row.append((*colour, round(255 * hits / (samples * samples))))
+        rows.append(row)
+    return png(size, size, rows)
+
+
 def main():
     out = sys.argv[1] if len(sys.argv) > 1 else os.path.join(os.path.dirname(__file__), "..", "resources")
-    for name, (colour, mark) in ICONS.items():
-        for scale, suffix in ((1, ""), (2, "@2x"), (3, "@3x")):
+    for scale, suffix in ((1, ""), (2, "@2x"), (3, "@3x")):
+        for name, (colour, mark) in ICONS.items():
             with open(os.path.join(out, f"{name}{suffix}.png"), "wb") as f:
                 f.write(draw(colour, mark, BASE_SIZE * scale))
+        for name, (points, colour, mark) in BUTTON_IMAGES.items():
+            with open(os.path.join(out, f"{name}{suffix}.png"), "wb") as f:
+                f.write(draw_mark(colour, mark, points * scale))
 
 
 if __name__ == "__main__":

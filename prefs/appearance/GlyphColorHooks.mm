@@ -3,6 +3,8 @@
 #import "core/PlatformAPI.h"
 #import "core/Startup.h"
 #import "core/VersionFlags.h"
+#import "appearance/TessarinGlyphIconCell.h"
+#include "appearance/ButtonRules.hpp"
 
 namespace {
 
@@ -10,15 +12,13 @@ typedef void (*ColorSetter)(id, SEL, UIColor *, BOOL);
 ColorSetter platformSetPrimaryColor = NULL;
 ColorSetter platformSetSecondaryColor = NULL;
 
-// The palette style that a sample glyph shows (black 3, blue 2, red 1), or 0 for other glyphs.
+// The palette style that a sample glyph keeps, or 0 for any other glyph.
 long sampleStyleOfGlyph(id glyph) {
-  Class cellClass = NSClassFromString(@"TessarinGlyphIconCell");
-  if (cellClass == Nil || ![cellClass respondsToSelector:@selector(sharedInstance)]) return 0;
-  id cell = [cellClass performSelector:@selector(sharedInstance)];
-  if (cell == nil) return 0;
-  if ([cell respondsToSelector:@selector(blackView)] && glyph == [cell performSelector:@selector(blackView)]) return 3;
-  if ([cell respondsToSelector:@selector(blueView)] && glyph == [cell performSelector:@selector(blueView)]) return 2;
-  if ([cell respondsToSelector:@selector(redView)] && glyph == [cell performSelector:@selector(redView)]) return 1;
+  TessarinGlyphIconCell *cell = [TessarinGlyphIconCell sharedInstance];
+  if (cell == nil || glyph == nil) return 0;
+  if (glyph == [cell blackView]) return tessarin::appearance::glyph::hookPaletteStyle(0);
+  if (glyph == [cell blueView]) return tessarin::appearance::glyph::hookPaletteStyle(1);
+  if (glyph == [cell redView]) return tessarin::appearance::glyph::hookPaletteStyle(2);
   return 0;
 }
 

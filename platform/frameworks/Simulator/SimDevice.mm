@@ -180,6 +180,7 @@ int SimDeviceCreate(const char *root, const char *profile)
             for (NSUInteger i = 0; i < [files count]; i++) writeEntry(rootPath, [files objectAtIndex:i]);
         }
         ok = ok && SimInstallSystemFiles(root) == 0;
+        ok = ok && SimInstallSystemFrameworks(root, p) == 0;
         if (ok) result = 0;
         else errno = EIO;
     }

@@ -3,6 +3,7 @@
 //
 // Commands:
 //   tap N                 open a link row, press a button row, follow a footer link
+//   tap N left|middle|right one third of a row of three choices (unlock buttons, glyphs)
 //   flip N                turn a switch row over
 //   switch N on|off       set a switch row
 //   alert N | alert TITLE trigger an action of the alert on screen

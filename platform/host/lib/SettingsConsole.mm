@@ -1,4 +1,5 @@
 #import "SettingsConsole.h"
+#import "SettingsIconRows.h"
 #import "HostPrivateAPI.h"
 #import "SettingsScreen.h"
 #include <Simulator/Simulator.h>
@@ -50,6 +51,7 @@ static void performOn(id target, SEL action, id argument) {
 + (NSString *)helpText {
   return @"Commands:\n"
           "  tap N              open a link row, press a button row, follow a footer link\n"
+          "  tap N left|middle|right  tap one third of a row of three choices (unlock buttons, glyphs)\n"
           "  flip N             turn a switch row over\n"
           "  switch N on|off    set a switch row\n"
           "  alert N            trigger the alert's action N (or: alert \"Title\")\n"
@@ -327,6 +329,12 @@ static void performOn(id target, SEL action, id argument) {
     SettingsScreenItem *item = [self itemNumbered:[words objectAtIndex:1] error:&problem];
     if (item != nil) {
       problem = [[self screen] alert] != nil ? @"Answer the alert first (alert N)." : [self tap:item];
+    }
+  } else if ([verb isEqualToString:@"tap"] && count == 3) {
+    SettingsScreenItem *item = [self itemNumbered:[words objectAtIndex:1] error:&problem];
+    if (item != nil) {
+      problem = [[self screen] alert] != nil ? @"Answer the alert first (alert N)."
+                                             : SettingsIconRowTap([item specifier], [item controller], [words objectAtIndex:2]);
     }
   } else if ([verb isEqualToString:@"flip"] && count == 2) {
     SettingsScreenItem *item = [self itemNumbered:[words objectAtIndex:1] error:&problem];

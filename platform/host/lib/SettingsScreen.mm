@@ -1,4 +1,5 @@
 #import "SettingsScreen.h"
+#import "SettingsIconRows.h"
 #import "HostPrivateAPI.h"
 #include <objc/runtime.h>
 
@@ -420,6 +421,7 @@ static NSString *valueText(id value, PSSpecifier *specifier) {
                 [NSString stringWithFormat:@"\"%@\"", value != nil ? valueText(value, specifier) : @""];
         break;
       default:
+        right = SettingsIconRowText(specifier, page);
         break;
     }
     if (right == nil) right = @"";
