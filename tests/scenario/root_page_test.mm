@@ -7,6 +7,7 @@
 #import <Preferences/PSSpecifier.h>
 #include <notify.h>
 #import "BundleFixture.h"
+#import "SettingsHost.h"
 #include "core/SystemVersion.hpp"
 
 namespace {
@@ -98,6 +99,16 @@ protected:
         [page specifiers];
         SimRunLoopRunFor(0.05);
         return page;
+    }
+
+    // Opens the product's entry from the Settings list, as the user does; the page it shows.
+    PSListController *OpenInSettings() {
+        EXPECT_TRUE(SettingsHostBuildSettingsApp(SettingsHostLoadPreferenceBundle()));
+        PSListController *list = [SimSettingsRootController() rootListController];
+        [list view];
+        EXPECT_TRUE(SimListControllerTapSpecifier(list, [[list specifiers] lastObject]));
+        SimRunLoopRunFor(SimTransitionDuration + 0.1);
+        return (PSListController *)[SimSettingsRootController() topViewController];
     }
 
     void Set(id value, const char *key) {
@@ -395,26 +406,18 @@ TEST_F(RootPageTest, ResetAllRemovesEveryKeyPostsOnceAndLeaves) {
     Set(@"2580", "passcode");
     Set(@[ @"com.apple.mobilesafari" ], "protected");
     Set(@(NO), "Enabled");
-    // Settings shows the product's page in a detail navigation inside its root controller.
-    UINavigationController *root = settingsRoot();
-    ASSERT_NE(root, nil);
-    PSListController *page = [[[NSClassFromString(@"TessarinPrefsListController") alloc] init] autorelease];
-    UINavigationController *detail = [[[UINavigationController alloc] initWithRootViewController:page] autorelease];
-    [root pushViewController:detail animated:NO];
-    [page view];
-    SimRunLoopRunFor(0.05);
+    PSListController *page = OpenInSettings();
+    ASSERT_TRUE([page isKindOfClass:NSClassFromString(@"TessarinPrefsListController")]);
     PSSpecifier *reset = rowWithId([page specifiers], @"RESET_ALL");
     ASSERT_NE(reset, nil);
     unsigned posts = SimNotifyPostCount(kPrefsChanged);
 
-    // The button reaches the page.
-    id target = [reset target];
-    ASSERT_TRUE([target respondsToSelector:[reset buttonAction]]);
-    [target performSelector:[reset buttonAction] withObject:reset];
+    ASSERT_TRUE(SimListControllerTapSpecifier(page, reset));
     UIAlertController *question = PresentedAlert(page);
     ASSERT_NE(question, nil);
     EXPECT_NSEQ(actionTitles(question), (@[ @"Cancel", @"Reset" ]));
-    EXPECT_TRUE([[question message] hasPrefix:@"This will reset all settings to defaults"]);
+    EXPECT_NSEQ([question message], @"This will reset all settings to defaults, including any apps or toggles that "
+                                    @"you have set as protected. Do you want to continue?");
 
     Choose(question, @"Reset");
     EXPECT_EQ([StoredPreferences() count], 0u);
@@ -424,8 +427,26 @@ TEST_F(RootPageTest, ResetAllRemovesEveryKeyPostsOnceAndLeaves) {
     EXPECT_NSEQ([done message], @"All Tessarin settings have been reset to defaults.");
     EXPECT_NSEQ(actionTitles(done), @[ @"OK" ]);
 
+    // The phone's Settings goes back to its list: the product's pane is gone from the screen.
     Choose(done, @"OK");
-    EXPECT_FALSE([[root viewControllers] containsObject:detail]);
+    UIViewController *shown = SimSettingsWindowRootController();
+    ASSERT_TRUE([shown isKindOfClass:[UINavigationController class]]);
+    EXPECT_EQ([(UINavigationController *)shown topViewController], [SimSettingsRootController() rootListController]);
+}
+
+TEST_F(RootPageTest, OnAnIPadTheResetLeavesThePageBesideTheList) {
+    Start("ipad-ios15");
+    PSListController *page = OpenInSettings();
+    [page performSelector:@selector(resetAllTessarinSettings:) withObject:nil];
+    UIAlertController *question = PresentedAlert(page);
+    ASSERT_NE(question, nil);
+    Choose(question, @"Reset");
+    UIAlertController *done = PresentedAlert(page);
+    ASSERT_NE(done, nil);
+    Choose(done, @"OK");
+    // The list is beside the page already: nothing is popped.
+    EXPECT_EQ([SimSettingsRootController() topViewController], page);
+    EXPECT_TRUE([SimSettingsWindowRootController() isKindOfClass:[PSSplitViewController class]]);
 }
 
 TEST_F(RootPageTest, CancellingTheResetKeepsEverything) {
@@ -466,14 +487,45 @@ TEST_F(RootPageTest, TheCatalogueLinkOpensTheMakersPage) {
     EXPECT_NSEQ([[opened objectAtIndex:0] scheme], @"https");
 }
 
-TEST_F(RootPageTest, MissingPasscodePagesAreTolerated) {
-    Start();
-    PSListController *page = OpenRootPage();
-    // Whether or not the passcode pages exist, asking for them must not fail.
-    [page performSelector:@selector(loadUserPasswordController)];
-    [page performSelector:@selector(loadUserComplexPasswordController)];
-    SimRunLoopRunFor(SimTransitionDuration + 0.1);
-    if (NSClassFromString(@"TessarinUserPasscodeController") == Nil) EXPECT_EQ([page presentedViewController], nil);
+// With a device passcode, the device-authentication row and the first-run prompt's "Setup"
+// present the device-passcode check modally, in a navigation controller of its own.
+TEST_F(RootPageTest, TheDeviceAuthenticationWaysPresentThePasscodeCheck) {
+    const struct {
+        const char *what;
+        const char *profile;
+        bool fromPrompt;
+        NSString *pageClass;
+    } cases[] = {
+        {"Face ID row, six digits", SIM_DEFAULT_PROFILE, false, @"TessarinUserPasscodeController"},
+        {"Touch ID row, letters", "ipad-ios15", false, @"TessarinUserComplexPasscodeController"},
+        {"Setup Face ID, six digits", SIM_DEFAULT_PROFILE, true, @"TessarinUserPasscodeController"},
+    };
+    for (const auto &c : cases) {
+        SCOPED_TRACE(c.what);
+        StopSpringBoard();
+        if (c.fromPrompt)
+            Start(c.profile, true, ^(NSMutableDictionary *profile) {
+                [profile setObject:@(NO) forKey:@"biometricsEnrolled"];
+            });
+        else
+            Start(c.profile);
+        PSListController *page = OpenInSettings();
+        if (c.fromPrompt) {
+            UIAlertController *prompt = PresentedAlert(page);
+            ASSERT_NE(prompt, nil);
+            Choose(prompt, @"Setup Face ID");
+        } else {
+            PSSpecifier *row = [[page specifiers] objectAtIndex:8];
+            ASSERT_TRUE(SimListControllerTapSpecifier(page, row));
+        }
+        SimRunLoopRunFor(SimTransitionDuration + 0.1);
+        UIViewController *modal = [page presentedViewController];
+        ASSERT_TRUE([modal isKindOfClass:[UINavigationController class]]);
+        UIViewController *check = [(UINavigationController *)modal topViewController];
+        EXPECT_NSEQ(NSStringFromClass([check class]), c.pageClass);
+        EXPECT_EQ([[SimSettingsRootController() viewControllers] count], 1u);  // nothing pushed
+        SimSettingsReset();
+    }
 }
 
 TEST_F(RootPageTest, OlderSystemsReadThePasscodeCharacteristicsDirectly) {
