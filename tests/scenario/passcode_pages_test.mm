@@ -575,6 +575,67 @@ TEST_F(DevicePasscodeTest, WithoutSystemPagesTheEntryIsRefused)
     EXPECT_EQ(StackDepth(), depth);
 }
 
+// MARK: - Delays, on the stopped clock
+
+namespace {
+
+// Whether `what` holds only once the clock is moved on by exactly `delay`: not a
+// millisecond before.
+void expectAtExactly(double delay, BOOL (^what)(void), const char *name)
+{
+    SimClockAdvance(delay - 0.001);
+    EXPECT_FALSE(what()) << name << " before " << delay << " s";
+    SimClockAdvance(0.001);
+    EXPECT_TRUE(what()) << name << " at " << delay << " s";
+}
+
+BOOL (^const touchesBack)(void) = ^BOOL { return SimIgnoringInteractionEventsCount() == 0; };
+
+}  // namespace
+
+TEST_F(PasscodePagesTest, ACommitRebuildsThePageAgainAndClosesAfterOneSecond)
+{
+    Start();
+    PSListController *settings = OpenSettingsPage();
+    id page = OpenModal(settings, @selector(addPassword));
+    Type(page, @"2580");
+    SimClockUseVirtualTime();
+    Type(page, @"2580", 0);
+    NSArray *rebuiltAtOnce = [[[settings specifiers] retain] autorelease];
+    EXPECT_NSEQ(rowIDs(rebuiltAtOnce), (@[ @"CHANGE_TESSARIN_PASSCODE", @"REMOVE_TESSARIN_PASSCODE",
+                                           @"USE_ONLY_TESSARIN_PASSCODE" ]));
+    EXPECT_EQ(SimIgnoringInteractionEventsCount(), 1);
+    expectAtExactly(1.0, ^BOOL { return [settings specifiers] != rebuiltAtOnce && touchesBack(); }, "commit");
+    SimClockAdvance(SimTransitionDuration);
+    EXPECT_EQ([settings presentedViewController], nil);
+}
+
+TEST_F(DevicePasscodeTest, TheThirdEntryClosesThePageAfterOneAndAHalfSeconds)
+{
+    Start();
+    OpenRootPage();
+    id page = OpenDevicePage(@"TessarinUserPasscodeController");
+    Type(page, @"000000");
+    Type(page, @"111111");
+    SimClockUseVirtualTime();
+    Type(page, @"123456", 0);
+    EXPECT_EQ(SimIgnoringInteractionEventsCount(), 1);
+    expectAtExactly(1.5, touchesBack, "refusal");
+}
+
+TEST_F(DevicePasscodeTest, TheRightPasscodeClosesAfterPointEightAndPushesAtOnePointSeven)
+{
+    Start();
+    OpenRootPage();
+    NSUInteger depth = StackDepth();
+    id page = OpenDevicePage(@"TessarinUserPasscodeController");
+    SimClockUseVirtualTime();
+    Type(page, @"123456", 0);
+    expectAtExactly(0.8, touchesBack, "dismissal");
+    expectAtExactly(0.9, ^BOOL { return StackDepth() == depth + 1; }, "push");
+    EXPECT_NSEQ(NSStringFromClass([[RootNavigation() topViewController] class]), @"PSUIPearlPasscodeController");
+}
+
 // MARK: - Look of the entry page
 
 namespace {
