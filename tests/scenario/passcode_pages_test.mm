@@ -65,6 +65,22 @@ NSString *footerOf(PSSpecifier *group) {
 
 void removeSensors(NSMutableDictionary *profile) { [profile setObject:[NSArray array] forKey:@"ioServices"]; }
 
+// The product's English text for `key`, as its strings file gives it.
+NSString *Localized(NSString *key) {
+    NSBundle *bundle = [NSBundle bundleForClass:NSClassFromString(@"TessarinPasscodeController")];
+    NSString *path = [[bundle bundlePath] stringByAppendingPathComponent:@"en.lproj/Localizable.strings"];
+    NSString *file = [NSString stringWithContentsOfFile:path encoding:NSUTF8StringEncoding error:NULL];
+    NSDictionary *strings = [file propertyListFromStringsFileFormat];
+    id text = [strings objectForKey:key];
+    EXPECT_NE(text, nil) << [key UTF8String] << " in " << [path UTF8String];
+    return text;
+}
+
+// The title the navigation bar shows over a page.
+NSString *BarTitle(id page) {
+    return [[[[page navigationController] navigationBar] topItem] title];
+}
+
 unsigned soundsPlayed(unsigned soundID) {
     unsigned count = 0;
     for (NSNumber *played in SimPlayedSystemSounds())
@@ -236,9 +252,9 @@ TEST_F(PasscodePagesTest, FaceIDKeepsTwoBlanksBeforeItsNameAndRenamesTheUseOnlyS
     EXPECT_NSEQ([useOnly propertyForKey:@"label"], @"Use only passcode (no FaceID)");
     EXPECT_NSEQ([useOnly propertyForKey:@"key"], @"useOnlyPasscode");
     EXPECT_NSEQ([useOnly propertyForKey:@"defaults"], @"net.corvane.tessarin");
-    EXPECT_NSEQ([[page navigationItem] title], @"Passcode options");
+    EXPECT_NSEQ([[page navigationItem] title], Localized(@"PASSCODE_OPTIONS"));
     PSSpecifier *change = [specifiers objectAtIndex:1];
-    EXPECT_NSEQ([change name], @"Change Tessarin passcode");
+    EXPECT_NSEQ([change name], Localized(@"CHANGE_TESSARIN_PASSCODE"));
     EXPECT_EQ([change target], page);
     EXPECT_TRUE(sel_isEqual([change buttonAction], @selector(changePassword)));
 }
@@ -285,15 +301,15 @@ TEST_F(PasscodePagesTest, SetFlowStoresTheSameEntryTwiceAndShakesOnAMismatch)
     PSListController *settings = OpenSettingsPage();
     unsigned changes = SimNotifyPostCount(kPrefsChanged);
     id page = OpenModal(settings, @selector(addPassword));
-    EXPECT_NSEQ([page title], @"Add a Tessarin passcode");
-    EXPECT_NSEQ(Prompt(page), @"Enter a Tessarin passcode");
+    EXPECT_NSEQ(BarTitle(page), Localized(@"ADD_TESSARIN_PASSCODE"));
+    EXPECT_NSEQ(Prompt(page), Localized(@"ENTER_TESSARIN_PASSCODE"));
     EXPECT_EQ([[page passcodeField] numberOfEntryFields], 4u);
 
     Type(page, @"1234");
-    EXPECT_NSEQ(Prompt(page), @"Re-enter Tessarin passcode");
+    EXPECT_NSEQ(Prompt(page), Localized(@"REENTER_TESSARIN_PASSCODE"));
     Type(page, @"5678");
-    EXPECT_NSEQ(Prompt(page), @"Enter a Tessarin passcode");
-    EXPECT_NSEQ(Warning(page), @"Passcodes didn't match. Try again.");
+    EXPECT_NSEQ(Prompt(page), Localized(@"ENTER_TESSARIN_PASSCODE"));
+    EXPECT_NSEQ(Warning(page), Localized(@"PASSCODES_DID_NOT_MATCH_TRY_AGAIN"));
     EXPECT_NSEQ([[page passcodeField] stringValue], @"");
     EXPECT_EQ(soundsPlayed(1011), 1u);
     EXPECT_EQ(StoredPasscode(), nil);
@@ -337,12 +353,12 @@ TEST_F(PasscodePagesTest, RemoveDeletesTheKeyOnlyForTheStoredPasscode)
     PSListController *settings = OpenSettingsPage();
     unsigned changes = SimNotifyPostCount(kPrefsChanged);
     id page = OpenModal(settings, @selector(removePassword));
-    EXPECT_NSEQ([page title], @"Remove Tessarin passcode");
-    EXPECT_NSEQ(Prompt(page), @"Enter old Tessarin passcode");
+    EXPECT_NSEQ(BarTitle(page), Localized(@"REMOVE_TESSARIN_PASSCODE"));
+    EXPECT_NSEQ(Prompt(page), Localized(@"ENTER_OLD_TESSARIN_PASSCODE"));
 
     Type(page, @"1234");
-    EXPECT_NSEQ(Prompt(page), @"Enter old Tessarin passcode");
-    EXPECT_NSEQ(Warning(page), @"Wrong passcode. Try again.");
+    EXPECT_NSEQ(Prompt(page), Localized(@"ENTER_OLD_TESSARIN_PASSCODE"));
+    EXPECT_NSEQ(Warning(page), Localized(@"WRONG_PASSCODE_TRY_AGAIN"));
     EXPECT_NSEQ(StoredPasscode(), @"4321");
 
     Type(page, @"4321", kFlowSettle);
@@ -361,7 +377,7 @@ TEST_F(PasscodePagesTest, WithNothingStoredRemoveAndChangeCanOnlyShake)
         id page = OpenModal(settings, action);
         for (NSString *entry in @[ @"0000", @"1234", @"9876" ]) {
             Type(page, entry);
-            EXPECT_NSEQ(Warning(page), @"Wrong passcode. Try again.") << sel_getName(action);
+            EXPECT_NSEQ(Warning(page), Localized(@"WRONG_PASSCODE_TRY_AGAIN")) << sel_getName(action);
         }
         [page cancelAndCleanup];
         SimRunLoopRunFor(0.6);
@@ -377,8 +393,8 @@ TEST_F(PasscodePagesTest, ChangeAsksOldThenNewTwiceAndKeepsTheAddTitle)
     PSListController *settings = OpenSettingsPage();
     unsigned changes = SimNotifyPostCount(kPrefsChanged);
     id page = OpenModal(settings, @selector(changePassword));
-    EXPECT_NSEQ([page title], @"Add a Tessarin passcode");
-    EXPECT_NSEQ(Prompt(page), @"Enter old Tessarin passcode");
+    EXPECT_NSEQ(BarTitle(page), Localized(@"ADD_TESSARIN_PASSCODE"));
+    EXPECT_NSEQ(Prompt(page), Localized(@"ENTER_OLD_TESSARIN_PASSCODE"));
 
     struct Step {
         NSString *entry;
@@ -386,12 +402,12 @@ TEST_F(PasscodePagesTest, ChangeAsksOldThenNewTwiceAndKeepsTheAddTitle)
         NSString *warning;
     };
     const Step steps[] = {
-        {@"9999", @"Enter old Tessarin passcode", @"Wrong passcode. Try again."},
-        {@"4321", @"Enter a Tessarin passcode", @""},
-        {@"1111", @"Re-enter Tessarin passcode", @""},
+        {@"9999", Localized(@"ENTER_OLD_TESSARIN_PASSCODE"), Localized(@"WRONG_PASSCODE_TRY_AGAIN")},
+        {@"4321", Localized(@"ENTER_TESSARIN_PASSCODE"), @""},
+        {@"1111", Localized(@"REENTER_TESSARIN_PASSCODE"), @""},
         // A mismatch goes back to the new passcode, not to the old one.
-        {@"2222", @"Enter a Tessarin passcode", @"Passcodes didn't match. Try again."},
-        {@"4321", @"Re-enter Tessarin passcode", @""},  // the old one may be chosen again
+        {@"2222", Localized(@"ENTER_TESSARIN_PASSCODE"), Localized(@"PASSCODES_DID_NOT_MATCH_TRY_AGAIN")},
+        {@"4321", Localized(@"REENTER_TESSARIN_PASSCODE"), @""},  // the old one may be chosen again
     };
     for (const Step &s : steps) {
         Type(page, s.entry);
@@ -499,7 +515,7 @@ TEST_F(DevicePasscodeTest, SixDigitPasscodeGivesSixBoxes)
     id page = OpenDevicePage(@"TessarinUserPasscodeController");
     EXPECT_EQ([[page passcodeField] numberOfEntryFields], 6u);
     EXPECT_NSEQ(Prompt(page), @"Enter your passcode");
-    EXPECT_NSEQ([page title], @"Enter Passcode");
+    EXPECT_NSEQ(BarTitle(page), @"Enter Passcode");
     // Still centred on the page after the change.
     EXPECT_DOUBLE_EQ([[page passcodeField] center].x, [[page view] center].x);
 }
@@ -532,12 +548,12 @@ TEST_F(DevicePasscodeTest, TwoWrongThenTheRightOneIsStillRefused)
     NSUInteger depth = StackDepth();
     id page = OpenDevicePage(@"TessarinUserPasscodeController");
     Type(page, @"000000");
-    EXPECT_NSEQ(Warning(page), @"Wrong passcode. Try again.");
+    EXPECT_NSEQ(Warning(page), Localized(@"WRONG_PASSCODE_TRY_AGAIN"));
     EXPECT_NSEQ(Prompt(page), @"Enter your passcode");
     Type(page, @"111111");
     EXPECT_EQ([page errorCount], 2);
     Type(page, @"123456", 0.1);
-    EXPECT_NSEQ(Warning(page), @"Too many attempts. Sorry.");
+    EXPECT_NSEQ(Warning(page), Localized(@"TOO_MANY_ATTEMPTS_SORRY"));
     EXPECT_NSEQ(Prompt(page), @"");
     EXPECT_EQ([[page passcodeField] alpha], 0.0);
     SimRunLoopRunFor(kFlowSettle);
@@ -554,7 +570,7 @@ TEST_F(DevicePasscodeTest, TouchIDDeviceUsesTheFirstFingerprintPage)
     OpenRootPage();
     NSUInteger depth = StackDepth();
     id page = OpenDevicePage(@"TessarinUserComplexPasscodeController");
-    EXPECT_NSEQ([page title], @"Enter Passcode");
+    EXPECT_NSEQ(BarTitle(page), @"Enter Passcode");
     [[page passcodeField] setText:passcode];
     EXPECT_TRUE([page textFieldShouldReturn:[page passcodeField]]);
     SimRunLoopRunFor(kFlowSettle);
@@ -570,7 +586,7 @@ TEST_F(DevicePasscodeTest, WithoutSystemPagesTheEntryIsRefused)
     NSUInteger depth = StackDepth();
     id page = OpenDevicePage(@"TessarinUserPasscodeController");
     Type(page, @"123456");
-    EXPECT_NSEQ(Warning(page), @"Wrong passcode. Try again.");
+    EXPECT_NSEQ(Warning(page), Localized(@"WRONG_PASSCODE_TRY_AGAIN"));
     SimRunLoopRunFor(kFlowSettle);
     EXPECT_EQ(StackDepth(), depth);
 }

@@ -14,6 +14,10 @@ namespace {
 
 const char *const kPrefsChanged = "net.corvane.tessarin.prefsChanged";
 
+NSString *const kLibraryMissing =
+    @"SpringBoard library is not correctly installed or not correctly loaded. If you can see this, this tweak can "
+    @"load correctly in settings but not in SpringBoard. Re-install or check our jailbreak settings.";
+
 // The rows every page build reads as "present" on every device of these tests.
 NSString *const kAlways[] = {@"ENABLED", @"PASSCODE_OPTIONS", @"KEEP_SESSION", @"TRUSTED_WIFI_NETWORKS",
                              @"APPLICATIONS", @"FOLDERS", @"RESET_ALL", @"CRASH_LOGS"};
@@ -305,8 +309,7 @@ TEST_F(RootPageTest, WithoutSpringBoardOnlyTheLibraryNoticeShows) {
     EXPECT_EQ([[[page performSelector:@selector(versionLabel)] text] length], 0u);
     EXPECT_EQ(PresentedAlert(page, 0.5), nil);
     NSString *footer = [[rows objectAtIndex:0] propertyForKey:@"footerText"];
-    EXPECT_TRUE([footer hasPrefix:@"SpringBoard library is not correctly installed or not correctly loaded."]);
-    EXPECT_TRUE([footer hasSuffix:@"Re-install or check our jailbreak settings."]);
+    EXPECT_NSEQ(footer, kLibraryMissing);
 }
 
 TEST_F(RootPageTest, ALibraryVersionOfZeroCountsAsNotLoaded) {
@@ -315,7 +318,7 @@ TEST_F(RootPageTest, ALibraryVersionOfZeroCountsAsNotLoaded) {
     });
     NSArray *rows = [OpenRootPage() specifiers];
     ASSERT_EQ([rows count], 1u);
-    EXPECT_TRUE([[[rows objectAtIndex:0] propertyForKey:@"footerText"] hasPrefix:@"SpringBoard library"]);
+    EXPECT_NSEQ([[rows objectAtIndex:0] propertyForKey:@"footerText"], kLibraryMissing);
 }
 
 TEST_F(RootPageTest, AnUnsupportedSystemShowsOnlyItsNotice) {
@@ -337,7 +340,9 @@ TEST_F(RootPageTest, ASpringBoardThatStopsAnsweringWarnsButThePageIsBuilt) {
     UIAlertController *alert = PresentedAlert(page);
     ASSERT_NE(alert, nil);
     EXPECT_NSEQ([alert title], @"Tessarin Nova");
-    EXPECT_TRUE([[alert message] hasPrefix:@"WARNING! Tessarin Nova cannot communicate with SpringBoard."]);
+    EXPECT_NSEQ([alert message], @"WARNING! Tessarin Nova cannot communicate with SpringBoard. Your device may be in "
+                                 @"safe mode or the Tessarin library is missing. Try to respring or to re-install "
+                                 @"Tessarin and mobilesubstrate");
     EXPECT_NSEQ(actionTitles(alert), @[ @"Okay" ]);
     EXPECT_EQ([[[alert actions] objectAtIndex:0] style], UIAlertActionStyleCancel);
     Choose(alert, @"Okay");
@@ -384,7 +389,10 @@ TEST_F(RootPageTest, SetupOnIOS16ShowsOnlyTheNoticeAndPushesNothing) {
     Choose(alert, @"Setup Face ID");
     UIAlertController *notice = PresentedAlert(page);
     ASSERT_NE(notice, nil);
-    EXPECT_TRUE([[notice message] hasPrefix:@"You are jailbroken on iOS 16.x\n"]);
+    EXPECT_NSEQ([notice message],
+                @"You are jailbroken on iOS 16.x\nIn this case, a passcode is not allowed by default, so in order to use "
+                @"Face ID, you need to use a tweak that enables passcode and Face ID first, such as checkL0ck. Follow the "
+                @"tweak's instructions to add a passcode and Face ID first, then you can use Tessarin with Face ID.");
     EXPECT_NSEQ(actionTitles(notice), @[ @"Okay" ]);
     EXPECT_EQ([[root viewControllers] count], depth);
 }
@@ -607,7 +615,11 @@ TEST_F(RootPageTest, ATouchIdPhoneWithoutPasscodeOpensTheSystemPageAndWarnsOnlyU
         EXPECT_EQ(notice != nil, c.notice);
         if (notice != nil) {
             EXPECT_NSEQ([notice title], @"Tessarin");
-            EXPECT_TRUE([[notice message] hasPrefix:@"Checkr4in jailbreak detected on iOS 14.x!\n"]);
+            EXPECT_NSEQ([notice message],
+                        @"Checkr4in jailbreak detected on iOS 14.x!\nIn this case, a passcode is not allowed so in order "
+                        @"to use Face ID/Touch ID, you need to add a fingerprint or Face ID first, then attempt to add a "
+                        @"passcode and let the phone crash and reboot. Then the biometrics will have been added but the "
+                        @"passcode will still be empty, allowing the jailbreak to function.");
             EXPECT_NSEQ(actionTitles(notice), @[ @"Okay" ]);
             EXPECT_EQ([[[notice actions] objectAtIndex:0] style], UIAlertActionStyleCancel);
         }
