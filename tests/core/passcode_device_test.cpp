@@ -99,16 +99,6 @@ TEST(DevicePasscodeFlow, CancelClosesWithoutChecking) {
   EXPECT_EQ(checks, 0);
 }
 
-TEST(DevicePasscodeFlow, TitlesDifferOnlyInCase) {
-  DevicePasscodeFlow numeric(DevicePage::Numeric);
-  DevicePasscodeFlow complex(DevicePage::Complex);
-  EXPECT_EQ(numeric.title().key, "PMENTER");
-  EXPECT_EQ(complex.title().key, "PMENTER");
-  EXPECT_EQ(numeric.title().defaultText, "Enter passcode");
-  EXPECT_EQ(complex.title().defaultText, "Enter Passcode");
-  EXPECT_EQ(DevicePasscodeFlow::initialPrompt().defaultText, "Enter your passcode");
-}
-
 TEST(DevicePasscode, EntryFieldCount) {
   const struct {
     long long length;
@@ -116,22 +106,6 @@ TEST(DevicePasscode, EntryFieldCount) {
   } cases[] = {{6, 6}, {4, 4}, {0, 4}, {5, 4}, {8, 4}, {-6, 4}};
   for (const auto &c : cases) {
     EXPECT_EQ(entryFieldCount(c.length), c.fields) << c.length;
-  }
-}
-
-TEST(DevicePasscode, PageChoice) {
-  const struct {
-    Characteristics c;
-    DevicePage page;
-  } cases[] = {
-      {{true, false, 4}, DevicePage::Numeric},  {{true, false, 6}, DevicePage::Numeric},
-      {{true, false, 5}, DevicePage::Complex},  {{true, false, 0}, DevicePage::Complex},
-      {{true, true, 4}, DevicePage::Complex},   {{false, false, 4}, DevicePage::Complex},
-      {{false, true, 6}, DevicePage::Complex},  {{}, DevicePage::Complex},
-  };
-  for (const auto &c : cases) {
-    EXPECT_EQ(devicePasscodePage(c.c), c.page)
-        << c.c.allDigits << " " << c.c.hasAlpha << " " << c.c.length;
   }
 }
 

