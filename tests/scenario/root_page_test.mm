@@ -406,11 +406,6 @@ TEST_F(RootPageTest, WithAProductPasscodeTheFirstRunPromptNeverShows) {
     EXPECT_EQ(PresentedAlert(page, 1.0), nil);
 }
 
-TEST_F(RootPageTest, WithBiometricsEnrolledTheFirstRunPromptNeverShows) {
-    Start();
-    EXPECT_EQ(PresentedAlert(OpenRootPage(), 1.0), nil);
-}
-
 TEST_F(RootPageTest, ResetAllRemovesEveryKeyPostsOnceAndLeaves) {
     Start();
     Set(@"2580", "passcode");
