@@ -56,33 +56,6 @@ INSTANTIATE_TEST_SUITE_P(
         DeviceCase{"nothing_after_success", {"135790", "1", "135790"}, 1, 0, true, false}),
     [](const auto &info) { return std::string(info.param.name); });
 
-TEST(DevicePasscodeFlow, WrongAndRefusedSteps) {
-  DevicePasscodeFlow flow;
-  auto never = [](std::string_view) { return false; };
-
-  Step wrong = flow.enter("1234", never);
-  EXPECT_EQ(wrong.transition, Transition::Shake);
-  EXPECT_TRUE(wrong.playErrorSound);
-  EXPECT_EQ(wrong.prompt, text::kDevicePrompt);
-  EXPECT_EQ(wrong.prompt.table, TextTable::GuidedAccess);
-  EXPECT_EQ(wrong.warning.key, "WRONG_PASSCODE_TRY_AGAIN");
-  EXPECT_EQ(wrong.warning.table, TextTable::Bundle);
-  EXPECT_EQ(flow.state(), DevicePasscodeFlow::State::Asking);
-
-  flow.enter("1234", never);
-  EXPECT_EQ(flow.state(), DevicePasscodeFlow::State::Locked);
-
-  Step refused = flow.enter("1234", never);
-  EXPECT_TRUE(refused.refuse);
-  EXPECT_FALSE(refused.success);
-  EXPECT_FALSE(refused.playErrorSound);
-  EXPECT_EQ(refused.transition, Transition::None);
-  EXPECT_TRUE(refused.prompt.empty());  // the prompt line is emptied
-  EXPECT_EQ(refused.warning.key, "TOO_MANY_ATTEMPTS_SORRY");
-  EXPECT_TRUE(refused.closesPage());
-  EXPECT_EQ(flow.state(), DevicePasscodeFlow::State::Closed);
-}
-
 TEST(DevicePasscodeFlow, EmptyCheckerCountsAsWrong) {
   DevicePasscodeFlow flow;
   Step s = flow.enter("1234", DevicePasscodeFlow::Checker());
