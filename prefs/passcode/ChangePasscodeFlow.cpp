@@ -61,17 +61,4 @@ ChangePasscodeFlow::State ChangePasscodeFlow::state() const {
   return pass2_ ? State::Confirm : State::New;
 }
 
-Text ChangePasscodeFlow::prompt() const {
-  switch (state()) {
-    case State::Old:
-    case State::Closed:
-      return text::kEnterOld;
-    case State::New:
-      return text::kEnter;
-    case State::Confirm:
-      return text::kReenter;
-  }
-  return text::kEnterOld;
-}
-
 }  // namespace tessarin::passcode

@@ -26,7 +26,6 @@ class RemovePasscodeFlow {
 
   State state() const { return closed_ ? State::Closed : State::Old; }
   bool closed() const { return closed_; }
-  Text prompt() const { return text::kEnterOld; }
   static constexpr Text title() { return text::kRemoveTitle; }
   static constexpr Text initialPrompt() { return text::kEnterOld; }
 
@@ -47,7 +46,6 @@ class ChangePasscodeFlow {
 
   State state() const;
   bool closed() const { return closed_; }
-  Text prompt() const;
   // The change page keeps the add page's title on purpose.
   static constexpr Text title() { return text::kAddTitle; }
   static constexpr Text initialPrompt() { return text::kEnterOld; }

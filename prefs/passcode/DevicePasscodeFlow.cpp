@@ -2,11 +2,6 @@
 
 namespace tessarin::passcode {
 
-DevicePage devicePasscodePage(const Characteristics &c) {
-  if (!c.allDigits || c.hasAlpha) return DevicePage::Complex;
-  return (c.length == 4 || c.length == 6) ? DevicePage::Numeric : DevicePage::Complex;
-}
-
 int entryFieldCount(long long length) {
   return length == 6 ? kSixDigitEntryFields : kDigitEntryFields;
 }

@@ -11,21 +11,10 @@
 
 namespace tessarin::passcode {
 
-// The device passcode's characteristics as the passcode manager reports them
-// ("allDigits", "hasAlpha", "length"); a missing entry reads as false / 0.
-struct Characteristics {
-  bool allDigits = false;
-  bool hasAlpha = false;
-  long long length = 0;
-};
-
 enum class DevicePage {
   Numeric,  // digit boxes
   Complex,  // a text field ended by the Return key
 };
-
-// Numeric only for all digits, no letters and a length of 4 or 6.
-DevicePage devicePasscodePage(const Characteristics &c);
 
 // Six boxes for a six-digit passcode, four for any other length.
 int entryFieldCount(long long length);

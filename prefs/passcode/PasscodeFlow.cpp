@@ -2,27 +2,6 @@
 
 namespace tessarin::passcode {
 
-namespace {
-
-// Every key the passcode pages look up. "PMENTER" appears once, with the
-// numeric page's default; the complex page uses text::kComplexDeviceTitle.
-constexpr Text kTexts[] = {
-    text::kAddTitle,   text::kCancel,       text::kEnter,      text::kReenter,
-    text::kMismatch,   text::kEnterOld,     text::kRemoveTitle, text::kChangeTitle,
-    text::kWrong,      text::kTooMany,      text::kOptionsTitle, text::kDevicePrompt,
-    text::kDeviceTitle,
-};
-
-}  // namespace
-
-Text findText(std::string_view key) {
-  if (key.empty()) return text::kNone;
-  for (const Text &t : kTexts) {
-    if (t.key == key) return t;
-  }
-  return text::kNone;
-}
-
 Step slideStep(Text prompt) {
   Step s;
   s.transition = Transition::Slide;

@@ -59,11 +59,6 @@ inline constexpr Text kDeviceTitle{"PMENTER", "Enter passcode", TextTable::Guide
 inline constexpr Text kComplexDeviceTitle{"PMENTER", "Enter Passcode", TextTable::GuidedAccess};
 }  // namespace text
 
-// The text of the product's own bundle with this key; an empty Text when the
-// key is not one of the passcode pages' keys. ("PMENTER" gives the numeric
-// page's default.)
-Text findText(std::string_view key);
-
 // ---------------------------------------------------------------------------
 // Steps
 

@@ -31,8 +31,4 @@ SetPasscodeFlow::State SetPasscodeFlow::state() const {
   return pass1_ ? State::Reenter : State::Enter;
 }
 
-Text SetPasscodeFlow::prompt() const {
-  return state() == State::Reenter ? text::kReenter : text::kEnter;
-}
-
 }  // namespace tessarin::passcode

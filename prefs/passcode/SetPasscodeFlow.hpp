@@ -22,8 +22,6 @@ class SetPasscodeFlow {
 
   State state() const;
   bool closed() const { return closed_; }
-  // The prompt for the current state (the page starts with kEnter).
-  Text prompt() const;
   static constexpr Text title() { return text::kAddTitle; }
   static constexpr Text initialPrompt() { return text::kEnter; }
 

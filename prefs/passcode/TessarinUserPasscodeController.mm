@@ -74,8 +74,9 @@ TokenAnswer tokenAnswer(id controller, SEL selector) {
   [self startFlow];
   [super loadView];
 
-  if (devicePasscodeLength() == 6 && [self.passcodeField respondsToSelector:@selector(setNumberOfEntryFields:)])
-    [self.passcodeField setNumberOfEntryFields:kSixDigitEntryFields];
+  const int fields = entryFieldCount(devicePasscodeLength());
+  if (fields != kDigitEntryFields && [self.passcodeField respondsToSelector:@selector(setNumberOfEntryFields:)])
+    [self.passcodeField setNumberOfEntryFields:fields];
   UIView *field = self.passcodeField;
   CGPoint centre = [field center];
   centre.x = [[self view] center].x;

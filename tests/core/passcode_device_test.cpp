@@ -56,33 +56,6 @@ INSTANTIATE_TEST_SUITE_P(
         DeviceCase{"nothing_after_success", {"135790", "1", "135790"}, 1, 0, true, false}),
     [](const auto &info) { return std::string(info.param.name); });
 
-TEST(DevicePasscodeFlow, WrongAndRefusedSteps) {
-  DevicePasscodeFlow flow;
-  auto never = [](std::string_view) { return false; };
-
-  Step wrong = flow.enter("1234", never);
-  EXPECT_EQ(wrong.transition, Transition::Shake);
-  EXPECT_TRUE(wrong.playErrorSound);
-  EXPECT_EQ(wrong.prompt, text::kDevicePrompt);
-  EXPECT_EQ(wrong.prompt.table, TextTable::GuidedAccess);
-  EXPECT_EQ(wrong.warning.key, "WRONG_PASSCODE_TRY_AGAIN");
-  EXPECT_EQ(wrong.warning.table, TextTable::Bundle);
-  EXPECT_EQ(flow.state(), DevicePasscodeFlow::State::Asking);
-
-  flow.enter("1234", never);
-  EXPECT_EQ(flow.state(), DevicePasscodeFlow::State::Locked);
-
-  Step refused = flow.enter("1234", never);
-  EXPECT_TRUE(refused.refuse);
-  EXPECT_FALSE(refused.success);
-  EXPECT_FALSE(refused.playErrorSound);
-  EXPECT_EQ(refused.transition, Transition::None);
-  EXPECT_TRUE(refused.prompt.empty());  // the prompt line is emptied
-  EXPECT_EQ(refused.warning.key, "TOO_MANY_ATTEMPTS_SORRY");
-  EXPECT_TRUE(refused.closesPage());
-  EXPECT_EQ(flow.state(), DevicePasscodeFlow::State::Closed);
-}
-
 TEST(DevicePasscodeFlow, EmptyCheckerCountsAsWrong) {
   DevicePasscodeFlow flow;
   Step s = flow.enter("1234", DevicePasscodeFlow::Checker());
@@ -99,16 +72,6 @@ TEST(DevicePasscodeFlow, CancelClosesWithoutChecking) {
   EXPECT_EQ(checks, 0);
 }
 
-TEST(DevicePasscodeFlow, TitlesDifferOnlyInCase) {
-  DevicePasscodeFlow numeric(DevicePage::Numeric);
-  DevicePasscodeFlow complex(DevicePage::Complex);
-  EXPECT_EQ(numeric.title().key, "PMENTER");
-  EXPECT_EQ(complex.title().key, "PMENTER");
-  EXPECT_EQ(numeric.title().defaultText, "Enter passcode");
-  EXPECT_EQ(complex.title().defaultText, "Enter Passcode");
-  EXPECT_EQ(DevicePasscodeFlow::initialPrompt().defaultText, "Enter your passcode");
-}
-
 TEST(DevicePasscode, EntryFieldCount) {
   const struct {
     long long length;
@@ -116,22 +79,6 @@ TEST(DevicePasscode, EntryFieldCount) {
   } cases[] = {{6, 6}, {4, 4}, {0, 4}, {5, 4}, {8, 4}, {-6, 4}};
   for (const auto &c : cases) {
     EXPECT_EQ(entryFieldCount(c.length), c.fields) << c.length;
-  }
-}
-
-TEST(DevicePasscode, PageChoice) {
-  const struct {
-    Characteristics c;
-    DevicePage page;
-  } cases[] = {
-      {{true, false, 4}, DevicePage::Numeric},  {{true, false, 6}, DevicePage::Numeric},
-      {{true, false, 5}, DevicePage::Complex},  {{true, false, 0}, DevicePage::Complex},
-      {{true, true, 4}, DevicePage::Complex},   {{false, false, 4}, DevicePage::Complex},
-      {{false, true, 6}, DevicePage::Complex},  {{}, DevicePage::Complex},
-  };
-  for (const auto &c : cases) {
-    EXPECT_EQ(devicePasscodePage(c.c), c.page)
-        << c.c.allDigits << " " << c.c.hasAlpha << " " << c.c.length;
   }
 }
 

@@ -74,37 +74,6 @@ INSTANTIATE_TEST_SUITE_P(
                 SetPasscodeFlow::State::Closed}),
     [](const auto &info) { return std::string(info.param.name); });
 
-TEST(SetPasscodeFlow, StepsCarryPromptsWarningAndSound) {
-  SetPasscodeFlow flow;
-  EXPECT_EQ(SetPasscodeFlow::title(), text::kAddTitle);
-  EXPECT_EQ(flow.prompt(), text::kEnter);
-
-  Step first = flow.enter("1234");
-  EXPECT_EQ(first.transition, Transition::Slide);
-  EXPECT_EQ(first.prompt.key, "REENTER_TESSARIN_PASSCODE");
-  EXPECT_TRUE(first.warning.empty());
-  EXPECT_FALSE(first.playErrorSound);
-  EXPECT_EQ(first.commit, Commit::None);
-
-  Step mismatch = flow.enter("9999");
-  EXPECT_EQ(mismatch.transition, Transition::Shake);
-  EXPECT_TRUE(mismatch.playErrorSound);
-  EXPECT_EQ(mismatch.prompt.key, "ENTER_TESSARIN_PASSCODE");
-  EXPECT_EQ(mismatch.warning.key, "PASSCODES_DID_NOT_MATCH_TRY_AGAIN");
-  EXPECT_EQ(mismatch.warning.defaultText, "Passcodes didn't match. Try again.");
-  EXPECT_EQ(mismatch.commit, Commit::None);
-  EXPECT_FALSE(mismatch.closesPage());
-
-  // Starts over: a slide again, not a store.
-  EXPECT_EQ(flow.enter("9999").transition, Transition::Slide);
-  Step done = flow.enter("9999");
-  EXPECT_EQ(done.commit, Commit::Store);
-  EXPECT_EQ(done.value, "9999");
-  EXPECT_EQ(done.transition, Transition::None);
-  EXPECT_TRUE(done.closesPage());
-  EXPECT_FALSE(done.changesLabels());
-}
-
 // An empty first entry is still a first entry (nothing held never equals it).
 TEST(SetPasscodeFlow, EmptyEntryIsAFirstEntry) {
   SetPasscodeFlow flow;
@@ -189,13 +158,6 @@ INSTANTIATE_TEST_SUITE_P(
         RemoveCase{"nothing_stored", std::nullopt, {"", "0000", "1234"}, 0, 3},
         RemoveCase{"stored_empty_string", std::string(""), {""}, 1, 0}),
     [](const auto &info) { return std::string(info.param.name); });
-
-TEST(RemovePasscodeFlow, TitleAndPrompt) {
-  RemovePasscodeFlow flow(std::string("1234"));
-  EXPECT_EQ(RemovePasscodeFlow::title().key, "REMOVE_TESSARIN_PASSCODE");
-  EXPECT_EQ(RemovePasscodeFlow::initialPrompt().key, "ENTER_OLD_TESSARIN_PASSCODE");
-  EXPECT_EQ(flow.prompt().key, "ENTER_OLD_TESSARIN_PASSCODE");
-}
 
 // ---------------------------------------------------------------------------
 // Changing
@@ -295,23 +257,6 @@ INSTANTIATE_TEST_SUITE_P(
                    0,
                    ""}),
     [](const auto &info) { return std::string(info.param.name); });
-
-TEST(ChangePasscodeFlow, KeepsTheAddTitle) {
-  EXPECT_EQ(ChangePasscodeFlow::title().key, "ADD_TESSARIN_PASSCODE");
-  EXPECT_EQ(ChangePasscodeFlow::title().defaultText, "Add a Tessarin passcode");
-  EXPECT_EQ(ChangePasscodeFlow::initialPrompt().key, "ENTER_OLD_TESSARIN_PASSCODE");
-}
-
-TEST(ChangePasscodeFlow, PromptFollowsState) {
-  ChangePasscodeFlow flow(std::string("1"));
-  EXPECT_EQ(flow.prompt(), text::kEnterOld);
-  flow.enter("1");
-  EXPECT_EQ(flow.prompt(), text::kEnter);
-  flow.enter("2");
-  EXPECT_EQ(flow.prompt(), text::kReenter);
-  flow.enter("3");
-  EXPECT_EQ(flow.prompt(), text::kEnter);
-}
 
 }  // namespace
 }  // namespace tessarin::passcode

@@ -89,75 +89,14 @@ TEST(SettingsRows, OrderFollowsTheFile) {
   EXPECT_TRUE(keptSettingsRows({true, true, true}, {}).empty());
 }
 
-TEST(SettingsRows, FaceIDName) {
-  EXPECT_STREQ(kUseOnlyFaceIDName, "Use only passcode (no FaceID)");
-}
-
 // ---------------------------------------------------------------------------
-// Footers
+// Footers (their texts and link range are checked in the app)
 
-constexpr const char *kRecoveryFace =
-    "In this page you can add a recovery passcode in cases where your BiometricID is repeatedly "
-    "not recognized. This passcode is different from your device passcode. If you forgot your "
-    "passcode, you can clear it using  FaceID. I forgot my passcode...";
-constexpr const char *kRecoveryTouch =
-    "In this page you can add a recovery passcode in cases where your BiometricID is repeatedly "
-    "not recognized. This passcode is different from your device passcode. If you forgot your "
-    "passcode, you can clear it using TouchID. I forgot my passcode...";
-constexpr const char *kAddFace =
-    "In this page you can add a Tessarin passcode in cases where your face is repeatedly not "
-    "recognized. This passcode is different from your device passcode.";
-constexpr const char *kAddFinger =
-    "In this page you can add a Tessarin passcode in cases where your fingerprint is repeatedly "
-    "not recognized. This passcode is different from your device passcode.";
-constexpr const char *kPlain =
-    "In this page you can add them main Tessarin passcode. This passcode is different from your "
-    "device passcode.";
-
-TEST(SettingsFooter, Texts) {
-  const struct {
-    const char *name;
-    SettingsContext ctx;
-    const char *text;
-    bool link;
-  } cases[] = {
-      {"passcode_faceid", {true, true, true}, kRecoveryFace, true},
-      {"passcode_touchid", {true, true, false}, kRecoveryTouch, true},
-      {"none_faceid", {false, true, true}, kAddFace, false},
-      {"none_touchid", {false, true, false}, kAddFinger, false},
-      {"passcode_no_biometrics", {true, false, false}, kPlain, false},
-      {"none_no_biometrics", {false, false, false}, kPlain, false},
-      // Face ID without a biometric sensor cannot happen; the sensor test decides.
-      {"faceid_flag_alone", {true, false, true}, kPlain, false},
-  };
-  for (const auto &c : cases) {
-    SCOPED_TRACE(c.name);
-    SettingsFooter f = settingsFooter(c.ctx);
-    EXPECT_EQ(f.text, c.text);
-    EXPECT_EQ(f.hasLink, c.link);
-    if (!c.link) {
-      EXPECT_EQ(f.linkLocation, 0u);
-      EXPECT_EQ(f.linkLength, 0u);
-    }
-  }
-}
-
-TEST(SettingsFooter, TwoBlanksBeforeFaceID) {
-  SettingsFooter f = settingsFooter({true, true, true});
-  EXPECT_NE(f.text.find("using  FaceID."), std::string::npos);
-  EXPECT_NE(settingsFooter({true, true, false}).text.find("using TouchID."), std::string::npos);
-}
-
-TEST(SettingsFooter, LinkRangeTakesTheBlankAndLeavesTheLastStop) {
-  for (bool faceID : {true, false}) {
-    SettingsFooter f = settingsFooter({true, true, faceID});
-    ASSERT_TRUE(f.hasLink);
-    EXPECT_EQ(f.linkLocation, f.text.size() - 24);
-    EXPECT_EQ(f.linkLength, 23u);
-    EXPECT_EQ(f.text.substr(f.linkLocation, f.linkLength), " I forgot my passcode..");
-    // ASCII only, so byte offsets are UTF-16 offsets.
-    for (unsigned char ch : f.text) EXPECT_LT(ch, 0x80);
-  }
+// Face ID without a biometric sensor cannot happen on a device; the sensor test decides.
+TEST(SettingsFooter, WithoutASensorTheFaceIDFlagIsIgnored) {
+  SettingsFooter f = settingsFooter({true, false, true});
+  EXPECT_EQ(f.text, settingsFooter({true, false, false}).text);
+  EXPECT_FALSE(f.hasLink);
 }
 
 }  // namespace

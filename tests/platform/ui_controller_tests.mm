@@ -60,10 +60,12 @@ protected:
 
 TEST_F(UIControllerTest, PushAndPopMoveAppearanceBetweenPages)
 {
-    PSRootController *root = [(PreferencesAppController *)[UIApplication sharedApplication] rootController];
+    // The navigation that holds the Settings list is the window's.
+    PSRootController *pane = [(PreferencesAppController *)[UIApplication sharedApplication] rootController];
+    EXPECT_TRUE([[pane rootListController] isKindOfClass:[PrefsListController class]]);
+    UINavigationController *root = (UINavigationController *)[[pane rootListController] parentViewController];
     ASSERT_TRUE([root isKindOfClass:[UINavigationController class]]);
-    EXPECT_TRUE([[root rootListController] isKindOfClass:[PrefsListController class]]);
-    EXPECT_EQ([[root rootListController] parentViewController], root);
+    EXPECT_NE(root, pane);
     EXPECT_EQ([UIApplication sharedApplication].keyWindow.rootViewController, root);
 
     UITestPage *a = Page(@"A");
@@ -107,8 +109,8 @@ TEST_F(UIControllerTest, PresentAndDismissFromAChild)
     __block int presented = 0;
     [list presentViewController:modal animated:YES completion:^{ ++presented; }];
     EXPECT_EQ(list.presentedViewController, modal);
-    EXPECT_EQ(modal.presentingViewController, root);
-    EXPECT_EQ(page.presentingViewController, root);
+    EXPECT_EQ(modal.presentingViewController, SimSettingsWindowRootController());
+    EXPECT_EQ(page.presentingViewController, SimSettingsWindowRootController());
     EXPECT_EQ(presented, 0);
     Settle();
     EXPECT_EQ(presented, 1);
@@ -176,4 +178,23 @@ TEST_F(UIControllerTest, ApplicationRecordsURLsAndBarButtonTaps)
     EXPECT_STREQ([[log_ lastObject] UTF8String], [@"P didAppear" UTF8String]);
     [UIPasteboard generalPasteboard].string = @"secret";
     EXPECT_STREQ([[UIPasteboard generalPasteboard].string UTF8String], "secret");
+}
+
+// A row of the Settings list opens its page as the first page of the pane: on a phone the
+// pane's navigation is one level of the list's, so the page's navigation can be popped.
+TEST_F(UIControllerTest, TheListOpensAPaneInsideItsNavigationOnAPhone)
+{
+    PSRootController *pane = SimSettingsRootController();
+    PSListController *list = [pane rootListController];
+    UINavigationController *listNavigation = (UINavigationController *)SimSettingsWindowRootController();
+    UITestPage *page = Page(@"P");
+    [list pushController:page animate:NO];
+    Settle();
+    EXPECT_EQ(page.navigationController, pane);
+    EXPECT_EQ(pane.parentViewController, listNavigation);
+    EXPECT_EQ(listNavigation.topViewController, pane);
+    EXPECT_EQ([pane.parentViewController respondsToSelector:@selector(popViewControllerAnimated:)], YES);
+    [listNavigation popViewControllerAnimated:NO];
+    Settle();
+    EXPECT_EQ(listNavigation.topViewController, list);
 }

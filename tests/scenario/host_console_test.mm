@@ -123,7 +123,7 @@ TEST_F(HostConsoleTest, CommandsThatCannotRunSayWhy) {
   const Case cases[] = {
       {"tap 999", "Choose a number from 1 to"},   {"tap x", "Choose a number from 1 to"},
       {"frobnicate", "Unknown command"},          {"alert 1", "No alert is showing."},
-      {"type 1234", "no passcode entry"},         {"cancel", "no bar button"},
+      {"type 1234", "no text field"},         {"cancel", "no bar button"},
       {"switch 1 maybe", "Say on or off"},        {"wait soon", "Say how long"},
       {"flip 999", "Choose a number from 1 to"},
   };
@@ -185,4 +185,17 @@ TEST_F(HostConsoleTest, TheSetPasscodeScriptTakesTheFirstRunStateToAUsableRootPa
   EXPECT_TRUE(Contains(screen_, "Passcode options")) << transcript;
   EXPECT_FALSE(Contains(screen_, "(disabled)")) << transcript;
   EXPECT_NSEQ([StoredPreferences() objectForKey:@"passcode"], @"1234");
+}
+
+TEST_F(HostConsoleTest, TheComplexDevicePasscodePageTakesTypedText) {
+  OpenSettings("ipad-ios15");
+  std::string check = Tap("] Touch ID");
+  ASSERT_TRUE(Contains(check, "(modal page)")) << check;
+  ASSERT_TRUE(Contains(check, "Enter your passcode")) << check;
+  std::string wrong = Run("type nope");
+  EXPECT_TRUE(Contains(wrong, "Wrong passcode. Try again.")) << wrong;
+  Run("type qwerty12");
+  std::string unlocked = Run("wait 2");
+  EXPECT_FALSE(Contains(unlocked, "(modal page)")) << unlocked;
+  EXPECT_TRUE(Contains(unlocked, "Settings > Tessarin > MESA")) << unlocked;  // the unlocked system page
 }

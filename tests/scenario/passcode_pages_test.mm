@@ -65,6 +65,22 @@ NSString *footerOf(PSSpecifier *group) {
 
 void removeSensors(NSMutableDictionary *profile) { [profile setObject:[NSArray array] forKey:@"ioServices"]; }
 
+// The product's English text for `key`, as its strings file gives it.
+NSString *Localized(NSString *key) {
+    NSBundle *bundle = [NSBundle bundleForClass:NSClassFromString(@"TessarinPasscodeController")];
+    NSString *path = [[bundle bundlePath] stringByAppendingPathComponent:@"en.lproj/Localizable.strings"];
+    NSString *file = [NSString stringWithContentsOfFile:path encoding:NSUTF8StringEncoding error:NULL];
+    NSDictionary *strings = [file propertyListFromStringsFileFormat];
+    id text = [strings objectForKey:key];
+    EXPECT_NE(text, nil) << [key UTF8String] << " in " << [path UTF8String];
+    return text;
+}
+
+// The title the navigation bar shows over a page.
+NSString *BarTitle(id page) {
+    return [[[[page navigationController] navigationBar] topItem] title];
+}
+
 unsigned soundsPlayed(unsigned soundID) {
     unsigned count = 0;
     for (NSNumber *played in SimPlayedSystemSounds())
@@ -108,13 +124,26 @@ protected:
         return get != nullptr ? get("passcode") : nil;
     }
 
-    // The passcode settings page, pushed onto the Settings navigation as its row opens it.
+    // The product's root page, opened from its row of the Settings list.
+    PSListController *OpenRootPage()
+    {
+        PSListController *list = [RootNavigation() rootListController];
+        [list view];
+        EXPECT_TRUE(SimListControllerTapSpecifier(list, [[list specifiers] lastObject]));
+        SimRunLoopRunFor(SimTransitionDuration + 0.1);
+        return (PSListController *)[RootNavigation() topViewController];
+    }
+
+    // The passcode settings page, pushed as its row pushes it: onto the product's pane when
+    // a page shows there, else as the pane's first page.
     PSListController *OpenSettingsPage()
     {
         Class pageClass = NSClassFromString(@"TessarinPasscodeSettingsController");
         EXPECT_NE(pageClass, Nil);
         PSListController *page = [[[pageClass alloc] init] autorelease];
-        [RootNavigation() pushViewController:page animated:NO];
+        PSListController *from = (PSListController *)[RootNavigation() topViewController];
+        if (from == nil) from = [RootNavigation() rootListController];
+        [from pushController:page animate:NO];
         [page view];
         SimRunLoopRunFor(0.1);
         return page;
@@ -211,21 +240,20 @@ TEST_F(PasscodePagesTest, SettingsRowsFollowThePasscodeAndTheHardware)
     }
 }
 
-TEST_F(PasscodePagesTest, FaceIDKeepsTwoBlanksBeforeItsNameAndRenamesTheUseOnlySwitch)
+TEST_F(PasscodePagesTest, FaceIDRenamesTheUseOnlySwitch)
 {
     Start();
     StorePasscode(@"2468");
     PSListController *page = OpenSettingsPage();
     NSArray *specifiers = [page specifiers];
-    EXPECT_NE([footerOf([specifiers objectAtIndex:0]) rangeOfString:@"using  FaceID."].location, (NSUInteger)NSNotFound);
     PSSpecifier *useOnly = [specifiers lastObject];
     EXPECT_NSEQ([useOnly name], @"Use only passcode (no FaceID)");
     EXPECT_NSEQ([useOnly propertyForKey:@"label"], @"Use only passcode (no FaceID)");
     EXPECT_NSEQ([useOnly propertyForKey:@"key"], @"useOnlyPasscode");
     EXPECT_NSEQ([useOnly propertyForKey:@"defaults"], @"net.corvane.tessarin");
-    EXPECT_NSEQ([[page navigationItem] title], @"Passcode options");
+    EXPECT_NSEQ([[page navigationItem] title], Localized(@"PASSCODE_OPTIONS"));
     PSSpecifier *change = [specifiers objectAtIndex:1];
-    EXPECT_NSEQ([change name], @"Change Tessarin passcode");
+    EXPECT_NSEQ([change name], Localized(@"CHANGE_TESSARIN_PASSCODE"));
     EXPECT_EQ([change target], page);
     EXPECT_TRUE(sel_isEqual([change buttonAction], @selector(changePassword)));
 }
@@ -272,15 +300,15 @@ TEST_F(PasscodePagesTest, SetFlowStoresTheSameEntryTwiceAndShakesOnAMismatch)
     PSListController *settings = OpenSettingsPage();
     unsigned changes = SimNotifyPostCount(kPrefsChanged);
     id page = OpenModal(settings, @selector(addPassword));
-    EXPECT_NSEQ([page title], @"Add a Tessarin passcode");
-    EXPECT_NSEQ(Prompt(page), @"Enter a Tessarin passcode");
+    EXPECT_NSEQ(BarTitle(page), Localized(@"ADD_TESSARIN_PASSCODE"));
+    EXPECT_NSEQ(Prompt(page), Localized(@"ENTER_TESSARIN_PASSCODE"));
     EXPECT_EQ([[page passcodeField] numberOfEntryFields], 4u);
 
     Type(page, @"1234");
-    EXPECT_NSEQ(Prompt(page), @"Re-enter Tessarin passcode");
+    EXPECT_NSEQ(Prompt(page), Localized(@"REENTER_TESSARIN_PASSCODE"));
     Type(page, @"5678");
-    EXPECT_NSEQ(Prompt(page), @"Enter a Tessarin passcode");
-    EXPECT_NSEQ(Warning(page), @"Passcodes didn't match. Try again.");
+    EXPECT_NSEQ(Prompt(page), Localized(@"ENTER_TESSARIN_PASSCODE"));
+    EXPECT_NSEQ(Warning(page), Localized(@"PASSCODES_DID_NOT_MATCH_TRY_AGAIN"));
     EXPECT_NSEQ([[page passcodeField] stringValue], @"");
     EXPECT_EQ(soundsPlayed(1011), 1u);
     EXPECT_EQ(StoredPasscode(), nil);
@@ -324,12 +352,12 @@ TEST_F(PasscodePagesTest, RemoveDeletesTheKeyOnlyForTheStoredPasscode)
     PSListController *settings = OpenSettingsPage();
     unsigned changes = SimNotifyPostCount(kPrefsChanged);
     id page = OpenModal(settings, @selector(removePassword));
-    EXPECT_NSEQ([page title], @"Remove Tessarin passcode");
-    EXPECT_NSEQ(Prompt(page), @"Enter old Tessarin passcode");
+    EXPECT_NSEQ(BarTitle(page), Localized(@"REMOVE_TESSARIN_PASSCODE"));
+    EXPECT_NSEQ(Prompt(page), Localized(@"ENTER_OLD_TESSARIN_PASSCODE"));
 
     Type(page, @"1234");
-    EXPECT_NSEQ(Prompt(page), @"Enter old Tessarin passcode");
-    EXPECT_NSEQ(Warning(page), @"Wrong passcode. Try again.");
+    EXPECT_NSEQ(Prompt(page), Localized(@"ENTER_OLD_TESSARIN_PASSCODE"));
+    EXPECT_NSEQ(Warning(page), Localized(@"WRONG_PASSCODE_TRY_AGAIN"));
     EXPECT_NSEQ(StoredPasscode(), @"4321");
 
     Type(page, @"4321", kFlowSettle);
@@ -348,7 +376,7 @@ TEST_F(PasscodePagesTest, WithNothingStoredRemoveAndChangeCanOnlyShake)
         id page = OpenModal(settings, action);
         for (NSString *entry in @[ @"0000", @"1234", @"9876" ]) {
             Type(page, entry);
-            EXPECT_NSEQ(Warning(page), @"Wrong passcode. Try again.") << sel_getName(action);
+            EXPECT_NSEQ(Warning(page), Localized(@"WRONG_PASSCODE_TRY_AGAIN")) << sel_getName(action);
         }
         [page cancelAndCleanup];
         SimRunLoopRunFor(0.6);
@@ -364,8 +392,8 @@ TEST_F(PasscodePagesTest, ChangeAsksOldThenNewTwiceAndKeepsTheAddTitle)
     PSListController *settings = OpenSettingsPage();
     unsigned changes = SimNotifyPostCount(kPrefsChanged);
     id page = OpenModal(settings, @selector(changePassword));
-    EXPECT_NSEQ([page title], @"Add a Tessarin passcode");
-    EXPECT_NSEQ(Prompt(page), @"Enter old Tessarin passcode");
+    EXPECT_NSEQ(BarTitle(page), Localized(@"ADD_TESSARIN_PASSCODE"));
+    EXPECT_NSEQ(Prompt(page), Localized(@"ENTER_OLD_TESSARIN_PASSCODE"));
 
     struct Step {
         NSString *entry;
@@ -373,12 +401,12 @@ TEST_F(PasscodePagesTest, ChangeAsksOldThenNewTwiceAndKeepsTheAddTitle)
         NSString *warning;
     };
     const Step steps[] = {
-        {@"9999", @"Enter old Tessarin passcode", @"Wrong passcode. Try again."},
-        {@"4321", @"Enter a Tessarin passcode", @""},
-        {@"1111", @"Re-enter Tessarin passcode", @""},
+        {@"9999", Localized(@"ENTER_OLD_TESSARIN_PASSCODE"), Localized(@"WRONG_PASSCODE_TRY_AGAIN")},
+        {@"4321", Localized(@"ENTER_TESSARIN_PASSCODE"), @""},
+        {@"1111", Localized(@"REENTER_TESSARIN_PASSCODE"), @""},
         // A mismatch goes back to the new passcode, not to the old one.
-        {@"2222", @"Enter a Tessarin passcode", @"Passcodes didn't match. Try again."},
-        {@"4321", @"Re-enter Tessarin passcode", @""},  // the old one may be chosen again
+        {@"2222", Localized(@"ENTER_TESSARIN_PASSCODE"), Localized(@"PASSCODES_DID_NOT_MATCH_TRY_AGAIN")},
+        {@"4321", Localized(@"REENTER_TESSARIN_PASSCODE"), @""},  // the old one may be chosen again
     };
     for (const Step &s : steps) {
         Type(page, s.entry);
@@ -418,17 +446,12 @@ void countSettingsListReloads()
 
 }  // namespace
 
-// A stored passcode changes the product's root page too (its greyed rows and
-// warnings), so a commit and the reset from SpringBoard rebuild every page of
-// the Settings navigation except the Settings list itself.
-TEST_F(PasscodePagesTest, CommitAndResetRebuildThePagesBelowButNotTheSettingsList)
+// A commit and the reset from SpringBoard rebuild the page on top of the
+// product's pane, and never the Settings list beside or below it.
+TEST_F(PasscodePagesTest, CommitAndResetRebuildThePaneButNotTheSettingsList)
 {
     Start();
-    Class rootClass = NSClassFromString(@"TessarinPrefsListController");
-    ASSERT_NE(rootClass, Nil);
-    PSListController *root = [[[rootClass alloc] init] autorelease];
-    [RootNavigation() pushViewController:root animated:NO];
-    SimRunLoopRunFor(0.1);
+    ASSERT_NE(OpenRootPage(), nil);
     PSListController *settings = OpenSettingsPage();
     PSListController *settingsList = [SimSettingsRootController() rootListController];
     ASSERT_NE(settingsList, nil);
@@ -452,14 +475,11 @@ TEST_F(PasscodePagesTest, CommitAndResetRebuildThePagesBelowButNotTheSettingsLis
     for (const Change &c : changes) {
         SCOPED_TRACE(c.what);
         // Held, so that a rebuilt list cannot reuse the old one's address.
-        NSArray *rootRows = [[root specifiers] retain];
         unsigned listReloads = settingsListReloads;
         NSArray *settingsRows = [[settings specifiers] retain];
         c.run();
-        EXPECT_NE([root specifiers], rootRows);
         EXPECT_NE([settings specifiers], settingsRows);
         EXPECT_EQ(settingsListReloads, listReloads);
-        [rootRows release];
         [settingsRows release];
     }
     EXPECT_EQ(StoredPasscode(), nil);
@@ -484,50 +504,18 @@ protected:
         return page;
     }
 
-    // The product's root page under the Settings list, as the pushed system page's parent.
-    void OpenRootPage()
-    {
-        Class rootClass = NSClassFromString(@"TessarinPrefsListController");
-        ASSERT_NE(rootClass, Nil);
-        id root = [[[rootClass alloc] init] autorelease];
-        [RootNavigation() pushViewController:root animated:NO];
-        SimRunLoopRunFor(0.1);
-    }
-
     NSUInteger StackDepth() { return [[RootNavigation() viewControllers] count]; }
 };
 
-// The passcode manager is one object per process, so each length gets its own test.
 TEST_F(DevicePasscodeTest, SixDigitPasscodeGivesSixBoxes)
 {
     Start(SIM_DEFAULT_PROFILE, ^(NSMutableDictionary *p) { [p setObject:@"123456" forKey:@"devicePasscode"]; });
     id page = OpenDevicePage(@"TessarinUserPasscodeController");
     EXPECT_EQ([[page passcodeField] numberOfEntryFields], 6u);
     EXPECT_NSEQ(Prompt(page), @"Enter your passcode");
-    EXPECT_NSEQ([page title], @"Enter Passcode");
+    EXPECT_NSEQ(BarTitle(page), @"Enter Passcode");
     // Still centred on the page after the change.
     EXPECT_DOUBLE_EQ([[page passcodeField] center].x, [[page view] center].x);
-}
-
-TEST_F(DevicePasscodeTest, FourDigitPasscodeKeepsFourBoxes)
-{
-    Start(SIM_DEFAULT_PROFILE, ^(NSMutableDictionary *p) { [p setObject:@"2580" forKey:@"devicePasscode"]; });
-    id page = OpenDevicePage(@"TessarinUserPasscodeController");
-    EXPECT_EQ([[page passcodeField] numberOfEntryFields], 4u);
-}
-
-TEST_F(DevicePasscodeTest, RightPasscodeClosesThePageAndPushesTheFaceIDPage)
-{
-    Start();
-    OpenRootPage();
-    NSUInteger depth = StackDepth();
-    id page = OpenDevicePage(@"TessarinUserPasscodeController");
-    Type(page, @"123456", 0.1);
-    EXPECT_EQ(SimIgnoringInteractionEventsCount(), 1);
-    SimRunLoopRunFor(kFlowSettle);
-    EXPECT_EQ(SimIgnoringInteractionEventsCount(), 0);
-    ASSERT_EQ(StackDepth(), depth + 1);
-    EXPECT_NSEQ(NSStringFromClass([[RootNavigation() topViewController] class]), @"PSUIPearlPasscodeController");
 }
 
 TEST_F(DevicePasscodeTest, TwoWrongThenTheRightOneIsStillRefused)
@@ -537,12 +525,12 @@ TEST_F(DevicePasscodeTest, TwoWrongThenTheRightOneIsStillRefused)
     NSUInteger depth = StackDepth();
     id page = OpenDevicePage(@"TessarinUserPasscodeController");
     Type(page, @"000000");
-    EXPECT_NSEQ(Warning(page), @"Wrong passcode. Try again.");
+    EXPECT_NSEQ(Warning(page), Localized(@"WRONG_PASSCODE_TRY_AGAIN"));
     EXPECT_NSEQ(Prompt(page), @"Enter your passcode");
     Type(page, @"111111");
     EXPECT_EQ([page errorCount], 2);
     Type(page, @"123456", 0.1);
-    EXPECT_NSEQ(Warning(page), @"Too many attempts. Sorry.");
+    EXPECT_NSEQ(Warning(page), Localized(@"TOO_MANY_ATTEMPTS_SORRY"));
     EXPECT_NSEQ(Prompt(page), @"");
     EXPECT_EQ([[page passcodeField] alpha], 0.0);
     SimRunLoopRunFor(kFlowSettle);
@@ -559,7 +547,7 @@ TEST_F(DevicePasscodeTest, TouchIDDeviceUsesTheFirstFingerprintPage)
     OpenRootPage();
     NSUInteger depth = StackDepth();
     id page = OpenDevicePage(@"TessarinUserComplexPasscodeController");
-    EXPECT_NSEQ([page title], @"Enter Passcode");
+    EXPECT_NSEQ(BarTitle(page), @"Enter Passcode");
     [[page passcodeField] setText:passcode];
     EXPECT_TRUE([page textFieldShouldReturn:[page passcodeField]]);
     SimRunLoopRunFor(kFlowSettle);
@@ -575,9 +563,70 @@ TEST_F(DevicePasscodeTest, WithoutSystemPagesTheEntryIsRefused)
     NSUInteger depth = StackDepth();
     id page = OpenDevicePage(@"TessarinUserPasscodeController");
     Type(page, @"123456");
-    EXPECT_NSEQ(Warning(page), @"Wrong passcode. Try again.");
+    EXPECT_NSEQ(Warning(page), Localized(@"WRONG_PASSCODE_TRY_AGAIN"));
     SimRunLoopRunFor(kFlowSettle);
     EXPECT_EQ(StackDepth(), depth);
+}
+
+// MARK: - Delays, on the stopped clock
+
+namespace {
+
+// Whether `what` holds only once the clock is moved on by exactly `delay`: not a
+// millisecond before.
+void expectAtExactly(double delay, BOOL (^what)(void), const char *name)
+{
+    SimClockAdvance(delay - 0.001);
+    EXPECT_FALSE(what()) << name << " before " << delay << " s";
+    SimClockAdvance(0.001);
+    EXPECT_TRUE(what()) << name << " at " << delay << " s";
+}
+
+BOOL (^const touchesBack)(void) = ^BOOL { return SimIgnoringInteractionEventsCount() == 0; };
+
+}  // namespace
+
+TEST_F(PasscodePagesTest, ACommitRebuildsThePageAgainAndClosesAfterOneSecond)
+{
+    Start();
+    PSListController *settings = OpenSettingsPage();
+    id page = OpenModal(settings, @selector(addPassword));
+    Type(page, @"2580");
+    SimClockUseVirtualTime();
+    Type(page, @"2580", 0);
+    NSArray *rebuiltAtOnce = [[[settings specifiers] retain] autorelease];
+    EXPECT_NSEQ(rowIDs(rebuiltAtOnce), (@[ @"CHANGE_TESSARIN_PASSCODE", @"REMOVE_TESSARIN_PASSCODE",
+                                           @"USE_ONLY_TESSARIN_PASSCODE" ]));
+    EXPECT_EQ(SimIgnoringInteractionEventsCount(), 1);
+    expectAtExactly(1.0, ^BOOL { return [settings specifiers] != rebuiltAtOnce && touchesBack(); }, "commit");
+    SimClockAdvance(SimTransitionDuration);
+    EXPECT_EQ([settings presentedViewController], nil);
+}
+
+TEST_F(DevicePasscodeTest, TheThirdEntryClosesThePageAfterOneAndAHalfSeconds)
+{
+    Start();
+    OpenRootPage();
+    id page = OpenDevicePage(@"TessarinUserPasscodeController");
+    Type(page, @"000000");
+    Type(page, @"111111");
+    SimClockUseVirtualTime();
+    Type(page, @"123456", 0);
+    EXPECT_EQ(SimIgnoringInteractionEventsCount(), 1);
+    expectAtExactly(1.5, touchesBack, "refusal");
+}
+
+TEST_F(DevicePasscodeTest, TheRightPasscodeClosesAfterPointEightAndPushesAtOnePointSeven)
+{
+    Start();
+    OpenRootPage();
+    NSUInteger depth = StackDepth();
+    id page = OpenDevicePage(@"TessarinUserPasscodeController");
+    SimClockUseVirtualTime();
+    Type(page, @"123456", 0);
+    expectAtExactly(0.8, touchesBack, "dismissal");
+    expectAtExactly(0.9, ^BOOL { return StackDepth() == depth + 1; }, "push");
+    EXPECT_NSEQ(NSStringFromClass([[RootNavigation() topViewController] class]), @"PSUIPearlPasscodeController");
 }
 
 // MARK: - Look of the entry page

@@ -7,11 +7,16 @@
 #import <Preferences/PSSpecifier.h>
 #include <notify.h>
 #import "BundleFixture.h"
+#import "SettingsHost.h"
 #include "core/SystemVersion.hpp"
 
 namespace {
 
 const char *const kPrefsChanged = "net.corvane.tessarin.prefsChanged";
+
+NSString *const kLibraryMissing =
+    @"SpringBoard library is not correctly installed or not correctly loaded. If you can see this, this tweak can "
+    @"load correctly in settings but not in SpringBoard. Re-install or check our jailbreak settings.";
 
 // The rows every page build reads as "present" on every device of these tests.
 NSString *const kAlways[] = {@"ENABLED", @"PASSCODE_OPTIONS", @"KEEP_SESSION", @"TRUSTED_WIFI_NETWORKS",
@@ -98,6 +103,16 @@ protected:
         [page specifiers];
         SimRunLoopRunFor(0.05);
         return page;
+    }
+
+    // Opens the product's entry from the Settings list, as the user does; the page it shows.
+    PSListController *OpenInSettings() {
+        EXPECT_TRUE(SettingsHostBuildSettingsApp(SettingsHostLoadPreferenceBundle()));
+        PSListController *list = [SimSettingsRootController() rootListController];
+        [list view];
+        EXPECT_TRUE(SimListControllerTapSpecifier(list, [[list specifiers] lastObject]));
+        SimRunLoopRunFor(SimTransitionDuration + 0.1);
+        return (PSListController *)[SimSettingsRootController() topViewController];
     }
 
     void Set(id value, const char *key) {
@@ -228,6 +243,8 @@ TEST_F(RootPageTest, AddOnsDecideTheTogglePages) {
         {"toggle library under /bootstrap", @[ @"/bootstrap/usr/lib/libflipswitch.dylib" ], true, true, false},
         {"FlipControlCenter under /bootstrap only",
          @[ @"/bootstrap/Library/MobileSubstrate/DynamicLibraries/FlipControlCenter.dylib" ], false, false, false},
+        {"FlipControlCenter under the jail root",
+         @[ @"/var/jb/Library/MobileSubstrate/DynamicLibraries/FlipControlCenter.dylib" ], false, false, false},
         {"CCSettings under the jail root only",
          @[ @"/var/jb/Library/MobileSubstrate/DynamicLibraries/CCSettings.dylib" ], false, false, false},
         {"CCSettings at /Library", @[ @"/Library/MobileSubstrate/DynamicLibraries/CCSettings.dylib" ], false, false,
@@ -294,8 +311,7 @@ TEST_F(RootPageTest, WithoutSpringBoardOnlyTheLibraryNoticeShows) {
     EXPECT_EQ([[[page performSelector:@selector(versionLabel)] text] length], 0u);
     EXPECT_EQ(PresentedAlert(page, 0.5), nil);
     NSString *footer = [[rows objectAtIndex:0] propertyForKey:@"footerText"];
-    EXPECT_TRUE([footer hasPrefix:@"SpringBoard library is not correctly installed or not correctly loaded."]);
-    EXPECT_TRUE([footer hasSuffix:@"Re-install or check our jailbreak settings."]);
+    EXPECT_NSEQ(footer, kLibraryMissing);
 }
 
 TEST_F(RootPageTest, ALibraryVersionOfZeroCountsAsNotLoaded) {
@@ -304,7 +320,7 @@ TEST_F(RootPageTest, ALibraryVersionOfZeroCountsAsNotLoaded) {
     });
     NSArray *rows = [OpenRootPage() specifiers];
     ASSERT_EQ([rows count], 1u);
-    EXPECT_TRUE([[[rows objectAtIndex:0] propertyForKey:@"footerText"] hasPrefix:@"SpringBoard library"]);
+    EXPECT_NSEQ([[rows objectAtIndex:0] propertyForKey:@"footerText"], kLibraryMissing);
 }
 
 TEST_F(RootPageTest, AnUnsupportedSystemShowsOnlyItsNotice) {
@@ -326,7 +342,9 @@ TEST_F(RootPageTest, ASpringBoardThatStopsAnsweringWarnsButThePageIsBuilt) {
     UIAlertController *alert = PresentedAlert(page);
     ASSERT_NE(alert, nil);
     EXPECT_NSEQ([alert title], @"Tessarin Nova");
-    EXPECT_TRUE([[alert message] hasPrefix:@"WARNING! Tessarin Nova cannot communicate with SpringBoard."]);
+    EXPECT_NSEQ([alert message], @"WARNING! Tessarin Nova cannot communicate with SpringBoard. Your device may be in "
+                                 @"safe mode or the Tessarin library is missing. Try to respring or to re-install "
+                                 @"Tessarin and mobilesubstrate");
     EXPECT_NSEQ(actionTitles(alert), @[ @"Okay" ]);
     EXPECT_EQ([[[alert actions] objectAtIndex:0] style], UIAlertActionStyleCancel);
     Choose(alert, @"Okay");
@@ -373,7 +391,10 @@ TEST_F(RootPageTest, SetupOnIOS16ShowsOnlyTheNoticeAndPushesNothing) {
     Choose(alert, @"Setup Face ID");
     UIAlertController *notice = PresentedAlert(page);
     ASSERT_NE(notice, nil);
-    EXPECT_TRUE([[notice message] hasPrefix:@"You are jailbroken on iOS 16.x\n"]);
+    EXPECT_NSEQ([notice message],
+                @"You are jailbroken on iOS 16.x\nIn this case, a passcode is not allowed by default, so in order to use "
+                @"Face ID, you need to use a tweak that enables passcode and Face ID first, such as checkL0ck. Follow the "
+                @"tweak's instructions to add a passcode and Face ID first, then you can use Tessarin with Face ID.");
     EXPECT_NSEQ(actionTitles(notice), @[ @"Okay" ]);
     EXPECT_EQ([[root viewControllers] count], depth);
 }
@@ -385,36 +406,23 @@ TEST_F(RootPageTest, WithAProductPasscodeTheFirstRunPromptNeverShows) {
     EXPECT_EQ(PresentedAlert(page, 1.0), nil);
 }
 
-TEST_F(RootPageTest, WithBiometricsEnrolledTheFirstRunPromptNeverShows) {
-    Start();
-    EXPECT_EQ(PresentedAlert(OpenRootPage(), 1.0), nil);
-}
-
 TEST_F(RootPageTest, ResetAllRemovesEveryKeyPostsOnceAndLeaves) {
     Start();
     Set(@"2580", "passcode");
     Set(@[ @"com.apple.mobilesafari" ], "protected");
     Set(@(NO), "Enabled");
-    // Settings shows the product's page in a detail navigation inside its root controller.
-    UINavigationController *root = settingsRoot();
-    ASSERT_NE(root, nil);
-    PSListController *page = [[[NSClassFromString(@"TessarinPrefsListController") alloc] init] autorelease];
-    UINavigationController *detail = [[[UINavigationController alloc] initWithRootViewController:page] autorelease];
-    [root pushViewController:detail animated:NO];
-    [page view];
-    SimRunLoopRunFor(0.05);
+    PSListController *page = OpenInSettings();
+    ASSERT_TRUE([page isKindOfClass:NSClassFromString(@"TessarinPrefsListController")]);
     PSSpecifier *reset = rowWithId([page specifiers], @"RESET_ALL");
     ASSERT_NE(reset, nil);
     unsigned posts = SimNotifyPostCount(kPrefsChanged);
 
-    // The button reaches the page.
-    id target = [reset target];
-    ASSERT_TRUE([target respondsToSelector:[reset buttonAction]]);
-    [target performSelector:[reset buttonAction] withObject:reset];
+    ASSERT_TRUE(SimListControllerTapSpecifier(page, reset));
     UIAlertController *question = PresentedAlert(page);
     ASSERT_NE(question, nil);
     EXPECT_NSEQ(actionTitles(question), (@[ @"Cancel", @"Reset" ]));
-    EXPECT_TRUE([[question message] hasPrefix:@"This will reset all settings to defaults"]);
+    EXPECT_NSEQ([question message], @"This will reset all settings to defaults, including any apps or toggles that "
+                                    @"you have set as protected. Do you want to continue?");
 
     Choose(question, @"Reset");
     EXPECT_EQ([StoredPreferences() count], 0u);
@@ -424,8 +432,26 @@ TEST_F(RootPageTest, ResetAllRemovesEveryKeyPostsOnceAndLeaves) {
     EXPECT_NSEQ([done message], @"All Tessarin settings have been reset to defaults.");
     EXPECT_NSEQ(actionTitles(done), @[ @"OK" ]);
 
+    // The phone's Settings goes back to its list: the product's pane is gone from the screen.
     Choose(done, @"OK");
-    EXPECT_FALSE([[root viewControllers] containsObject:detail]);
+    UIViewController *shown = SimSettingsWindowRootController();
+    ASSERT_TRUE([shown isKindOfClass:[UINavigationController class]]);
+    EXPECT_EQ([(UINavigationController *)shown topViewController], [SimSettingsRootController() rootListController]);
+}
+
+TEST_F(RootPageTest, OnAnIPadTheResetLeavesThePageBesideTheList) {
+    Start("ipad-ios15");
+    PSListController *page = OpenInSettings();
+    [page performSelector:@selector(resetAllTessarinSettings:) withObject:nil];
+    UIAlertController *question = PresentedAlert(page);
+    ASSERT_NE(question, nil);
+    Choose(question, @"Reset");
+    UIAlertController *done = PresentedAlert(page);
+    ASSERT_NE(done, nil);
+    Choose(done, @"OK");
+    // The list is beside the page already: nothing is popped.
+    EXPECT_EQ([SimSettingsRootController() topViewController], page);
+    EXPECT_TRUE([SimSettingsWindowRootController() isKindOfClass:[PSSplitViewController class]]);
 }
 
 TEST_F(RootPageTest, CancellingTheResetKeepsEverything) {
@@ -469,14 +495,45 @@ TEST_F(RootPageTest, TheCatalogueLinkOpensTheMakersPage) {
     EXPECT_NSEQ([SimOpenedURLOptions() objectAtIndex:0], [NSDictionary dictionary]);
 }
 
-TEST_F(RootPageTest, MissingPasscodePagesAreTolerated) {
-    Start();
-    PSListController *page = OpenRootPage();
-    // Whether or not the passcode pages exist, asking for them must not fail.
-    [page performSelector:@selector(loadUserPasswordController)];
-    [page performSelector:@selector(loadUserComplexPasswordController)];
-    SimRunLoopRunFor(SimTransitionDuration + 0.1);
-    if (NSClassFromString(@"TessarinUserPasscodeController") == Nil) EXPECT_EQ([page presentedViewController], nil);
+// With a device passcode, the device-authentication row and the first-run prompt's "Setup"
+// present the device-passcode check modally, in a navigation controller of its own.
+TEST_F(RootPageTest, TheDeviceAuthenticationWaysPresentThePasscodeCheck) {
+    const struct {
+        const char *what;
+        const char *profile;
+        bool fromPrompt;
+        NSString *pageClass;
+    } cases[] = {
+        {"Face ID row, six digits", SIM_DEFAULT_PROFILE, false, @"TessarinUserPasscodeController"},
+        {"Touch ID row, letters", "ipad-ios15", false, @"TessarinUserComplexPasscodeController"},
+        {"Setup Face ID, six digits", SIM_DEFAULT_PROFILE, true, @"TessarinUserPasscodeController"},
+    };
+    for (const auto &c : cases) {
+        SCOPED_TRACE(c.what);
+        StopSpringBoard();
+        if (c.fromPrompt)
+            Start(c.profile, true, ^(NSMutableDictionary *profile) {
+                [profile setObject:@(NO) forKey:@"biometricsEnrolled"];
+            });
+        else
+            Start(c.profile);
+        PSListController *page = OpenInSettings();
+        if (c.fromPrompt) {
+            UIAlertController *prompt = PresentedAlert(page);
+            ASSERT_NE(prompt, nil);
+            Choose(prompt, @"Setup Face ID");
+        } else {
+            PSSpecifier *row = [[page specifiers] objectAtIndex:8];
+            ASSERT_TRUE(SimListControllerTapSpecifier(page, row));
+        }
+        SimRunLoopRunFor(SimTransitionDuration + 0.1);
+        UIViewController *modal = [page presentedViewController];
+        ASSERT_TRUE([modal isKindOfClass:[UINavigationController class]]);
+        UIViewController *check = [(UINavigationController *)modal topViewController];
+        EXPECT_NSEQ(NSStringFromClass([check class]), c.pageClass);
+        EXPECT_EQ([[SimSettingsRootController() viewControllers] count], 1u);  // nothing pushed
+        SimSettingsReset();
+    }
 }
 
 TEST_F(RootPageTest, OlderSystemsReadThePasscodeCharacteristicsDirectly) {
@@ -558,7 +615,11 @@ TEST_F(RootPageTest, ATouchIdPhoneWithoutPasscodeOpensTheSystemPageAndWarnsOnlyU
         EXPECT_EQ(notice != nil, c.notice);
         if (notice != nil) {
             EXPECT_NSEQ([notice title], @"Tessarin");
-            EXPECT_TRUE([[notice message] hasPrefix:@"Checkr4in jailbreak detected on iOS 14.x!\n"]);
+            EXPECT_NSEQ([notice message],
+                        @"Checkr4in jailbreak detected on iOS 14.x!\nIn this case, a passcode is not allowed so in order "
+                        @"to use Face ID/Touch ID, you need to add a fingerprint or Face ID first, then attempt to add a "
+                        @"passcode and let the phone crash and reboot. Then the biometrics will have been added but the "
+                        @"passcode will still be empty, allowing the jailbreak to function.");
             EXPECT_NSEQ(actionTitles(notice), @[ @"Okay" ]);
             EXPECT_EQ([[[notice actions] objectAtIndex:0] style], UIAlertActionStyleCancel);
         }

@@ -9,6 +9,7 @@ void DeviceTest::SetUp()
 
 void DeviceTest::TearDown()
 {
+    SimClockUseRealTime();
     if (!root_.empty()) {
         SimDeviceRemove(root_.c_str());
         root_.clear();

@@ -704,19 +704,47 @@ static PSCellType defaultCellType(NSString *name) {
 }
 @end
 
+// Settings holds each pane (the pages a Settings list row opens) in a navigation controller
+// of its own, the app's rootController. A phone shows the pane inside the navigation that
+// holds the Settings list, one level above the list; an iPad shows it beside the list.
+@implementation PSSplitViewController
+- (void)dealloc {
+  [super dealloc];
+}
+- (NSArray *)viewControllers {
+  return [self childViewControllers];
+}
+- (void)setViewControllers:(NSArray *)controllers {
+  for (UIViewController *c in [self childViewControllers]) [c removeFromParentViewController];
+  for (UIViewController *c in controllers) [self addChildViewController:c];
+  if (![self isViewLoaded]) return;
+  CGRect bounds = self.view.bounds;
+  CGFloat listWidth = controllers.count > 1 ? 320 : bounds.size.width;
+  for (NSUInteger i = 0; i < controllers.count; i++) {
+    UIView *v = [[controllers objectAtIndex:i] view];
+    v.frame = i == 0 ? CGRectMake(0, 0, listWidth, bounds.size.height)
+                     : CGRectMake(listWidth, 0, bounds.size.width - listWidth, bounds.size.height);
+    [self.view addSubview:v];
+  }
+}
+@end
+
 @interface _SimSettingsState : NSObject {
   UIWindow *_window;
   PSRootController *_rootController;
+  UINavigationController *_listNavigation;
   NSArray *_rootSpecifiers;
 }
 @property(nonatomic, retain) UIWindow *window;
 @property(nonatomic, retain) PSRootController *rootController;
+@property(nonatomic, retain) UINavigationController *listNavigation;
 @property(nonatomic, copy) NSArray *rootSpecifiers;
 + (instancetype)shared;
 @end
 @implementation _SimSettingsState
 @synthesize window = _window;
 @synthesize rootController = _rootController;
+@synthesize listNavigation = _listNavigation;
 @synthesize rootSpecifiers = _rootSpecifiers;
 + (instancetype)shared {
   static _SimSettingsState *state;
@@ -733,6 +761,27 @@ static PSCellType defaultCellType(NSString *name) {
   }
   return _specifiers;
 }
+- (PSRootController *)rootController {
+  return SimSettingsRootController();
+}
+// A row of the Settings list opens its pane: the page becomes the pane's first page.
+- (void)pushController:(UIViewController *)controller animate:(BOOL)animate {
+  if (!controller) return;
+  PSRootController *pane = SimSettingsRootController();
+  if ([controller isKindOfClass:[PSViewController class]]) {
+    PSViewController *page = (PSViewController *)controller;
+    page.parentController = self;
+    page.rootController = pane;
+  }
+  [pane setViewControllers:[NSArray arrayWithObject:controller] animated:NO];
+  UINavigationController *list = [_SimSettingsState shared].listNavigation;
+  if ([pane parentViewController] == nil || [pane parentViewController] == list) {
+    if (list.topViewController != pane) {
+      [list popToRootViewControllerAnimated:NO];
+      [list _simPushNavigationController:pane animated:animate];
+    }
+  }
+}
 @end
 
 @implementation PreferencesAppController
@@ -744,19 +793,32 @@ static PSCellType defaultCellType(NSString *name) {
 PSRootController *SimSettingsRootController(void) {
   _SimSettingsState *state = [_SimSettingsState shared];
   if (!state.rootController) {
-    PSRootController *root = [[[PSRootController alloc] init] autorelease];
+    PSRootController *pane = [[[PSRootController alloc] init] autorelease];
+    UINavigationController *listNavigation = [[[UINavigationController alloc] init] autorelease];
     PrefsListController *list = [[[PrefsListController alloc] init] autorelease];
     list.title = @"Settings";
-    list.rootController = root;
-    root.rootListController = list;
-    [root pushViewController:list animated:NO];
+    list.rootController = pane;
+    pane.rootListController = list;
+    [listNavigation pushViewController:list animated:NO];
+    state.rootController = pane;
+    state.listNavigation = listNavigation;
+    UIViewController *top = listNavigation;
+    if ([[UIDevice currentDevice] userInterfaceIdiom] == UIUserInterfaceIdiomPad) {
+      PSSplitViewController *split = [[[PSSplitViewController alloc] init] autorelease];
+      [split setViewControllers:[NSArray arrayWithObjects:listNavigation, pane, nil]];
+      top = split;
+    }
     UIWindow *window = [[[UIWindow alloc] initWithFrame:[UIScreen mainScreen].bounds] autorelease];
-    state.rootController = root;
     state.window = window;
-    window.rootViewController = root;
+    window.rootViewController = top;
     [window makeKeyAndVisible];
   }
   return state.rootController;
+}
+
+UIViewController *SimSettingsWindowRootController(void) {
+  SimSettingsRootController();
+  return [_SimSettingsState shared].window.rootViewController;
 }
 
 void SimSettingsSetRootSpecifiers(NSArray *specifiers) {
@@ -771,6 +833,7 @@ void SimSettingsReset(void) {
   state.window.hidden = YES;
   state.window = nil;
   state.rootController = nil;
+  state.listNavigation = nil;
   state.rootSpecifiers = nil;
   SimUIKitReset();
 }

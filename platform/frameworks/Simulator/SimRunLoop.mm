@@ -17,6 +17,10 @@ static void runOnce(NSRunLoop *loop, NSDate *limit)
 
 void SimRunLoopRunFor(double seconds)
 {
+    if (SimClockIsVirtual()) {
+        SimClockAdvance(seconds);
+        return;
+    }
     NSAutoreleasePool *pool = [[NSAutoreleasePool alloc] init];
     NSRunLoop *loop = [NSRunLoop currentRunLoop];
     NSDate *limit = [NSDate dateWithTimeIntervalSinceNow:seconds];
@@ -34,6 +38,14 @@ BOOL SimRunLoopRunUntil(BOOL (^condition)(void), double timeout)
     NSRunLoop *loop = [NSRunLoop currentRunLoop];
     NSDate *limit = [NSDate dateWithTimeIntervalSinceNow:timeout];
     BOOL done = condition();
+    if (SimClockIsVirtual()) {
+        for (double waited = 0; !done && waited < timeout; waited += 0.01) {
+            SimClockAdvance(0.01);
+            done = condition();
+        }
+        [pool release];
+        return done;
+    }
     while (!done && [limit timeIntervalSinceNow] > 0) {
         NSAutoreleasePool *inner = [[NSAutoreleasePool alloc] init];
         runOnce(loop, limit);

@@ -112,66 +112,8 @@ void SimUIKitReset(void) {
 }
 @end
 
-// Timeline: blocks due at a time run in due order, ties in scheduling order.
-
-@interface _SimTimeline : NSObject {
-  NSMutableArray *_entries;
-  NSTimer *_timer;
-  unsigned long long _sequence;
-}
-@property(nonatomic, retain) NSTimer *timer;
-+ (instancetype)shared;
-- (void)schedule:(void (^)(void))block after:(NSTimeInterval)delay;
-@end
-
-@implementation _SimTimeline
-@synthesize timer = _timer;
-+ (instancetype)shared {
-  static _SimTimeline *timeline;
-  if (!timeline) timeline = [[_SimTimeline alloc] init];
-  return timeline;
-}
-- (instancetype)init {
-  if ((self = [super init])) _entries = [[NSMutableArray alloc] init];
-  return self;
-}
-- (void)arm {
-  [_timer invalidate];
-  self.timer = nil;
-  if (!_entries.count) return;
-  NSDate *due = [[_entries objectAtIndex:0] objectAtIndex:0];
-  NSTimer *t = [[NSTimer alloc] initWithFireDate:due interval:0 target:self selector:@selector(fire:) userInfo:nil
-                                         repeats:NO];
-  [[NSRunLoop mainRunLoop] addTimer:t forMode:NSDefaultRunLoopMode];
-  self.timer = t;
-  [t release];
-}
-- (void)schedule:(void (^)(void))block after:(NSTimeInterval)delay {
-  if (!block) return;
-  NSDate *due = [NSDate dateWithTimeIntervalSinceNow:delay > 0 ? delay : 0];
-  NSArray *entry = [NSArray arrayWithObjects:due, [NSNumber numberWithUnsignedLongLong:++_sequence],
-                                             [[[_SimBlockBox alloc] initWithBlock:block] autorelease], nil];
-  NSUInteger i = _entries.count;
-  while (i > 0 && [[[_entries objectAtIndex:i - 1] objectAtIndex:0] compare:due] == NSOrderedDescending) --i;
-  [_entries insertObject:entry atIndex:i];
-  if (i == 0) [self arm];
-}
-- (void)fire:(NSTimer *)timer {
-  self.timer = nil;
-  NSDate *now = [NSDate date];
-  while (_entries.count) {
-    NSArray *entry = [[[_entries objectAtIndex:0] retain] autorelease];
-    if ([[entry objectAtIndex:0] compare:now] == NSOrderedDescending) break;
-    [_entries removeObjectAtIndex:0];
-    NSAutoreleasePool *pool = [[NSAutoreleasePool alloc] init];
-    [(_SimBlockBox *)[entry objectAtIndex:2] run];
-    [pool release];
-  }
-  if (!_timer) [self arm];
-}
-@end
-
-void SimUIKitSchedule(NSTimeInterval delay, void (^block)(void)) { [[_SimTimeline shared] schedule:block after:delay]; }
+// Animation and transition completions wait on the main run loop's clock, in due order.
+void SimUIKitSchedule(NSTimeInterval delay, void (^block)(void)) { SimClockSchedule(delay, block); }
 
 // Geometry strings and boxing.
 

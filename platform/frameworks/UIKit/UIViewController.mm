@@ -453,6 +453,10 @@ enum { kDisappeared = 0, kAppearing = 1, kAppeared = 2, kDisappearing = 3 };
   }
   [self _simTransitionTo:[_childViewControllers arrayByAddingObject:vc] animated:animated];
 }
+- (void)_simPushNavigationController:(UINavigationController *)nested animated:(BOOL)animated {
+  if (!nested || nested == self || [_childViewControllers indexOfObjectIdenticalTo:nested] != NSNotFound) return;
+  [self _simTransitionTo:[_childViewControllers arrayByAddingObject:nested] animated:animated];
+}
 - (UIViewController *)popViewControllerAnimated:(BOOL)animated {
   if (_childViewControllers.count < 2) return nil;
   UIViewController *top = [[self.topViewController retain] autorelease];

@@ -108,7 +108,6 @@ static bool gDraining;
 @interface SimMainQueueDrainer : NSObject
 + (void)drain;
 + (void)scheduleTimer:(SimDispatchWork *)work;
-+ (void)timerFired:(NSTimer *)timer;
 @end
 
 static void mainEnqueue(SimDispatchWork *work)
@@ -149,19 +148,12 @@ static void mainEnqueue(SimDispatchWork *work)
 
 + (void)scheduleTimer:(SimDispatchWork *)work
 {
-    NSTimer *timer = [NSTimer timerWithTimeInterval:[work delay]
-                                             target:self
-                                           selector:@selector(timerFired:)
-                                           userInfo:work
-                                            repeats:NO];
-    NSRunLoop *loop = [NSRunLoop currentRunLoop];
-    [loop addTimer:timer forMode:NSDefaultRunLoopMode];
-    [loop addTimer:timer forMode:NSRunLoopCommonModes];
-}
-
-+ (void)timerFired:(NSTimer *)timer
-{
-    mainEnqueue([timer userInfo]);
+    // Waits on the main run loop's clock, then joins the main queue.
+    [work retain];
+    SimClockSchedule([work delay], ^{
+        mainEnqueue(work);
+        [work release];
+    });
 }
 @end
 

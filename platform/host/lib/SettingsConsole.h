@@ -7,7 +7,7 @@
 //   flip N                turn a switch row over
 //   switch N on|off       set a switch row
 //   alert N | alert TITLE trigger an action of the alert on screen
-//   type DIGITS           enter a passcode on a passcode page
+//   type TEXT             enter a passcode on a passcode page, else TEXT and Return in the focused field
 //   back                  go back one page
 //   cancel                the bar button of a modal page
 //   wait SECONDS          let the app run (animations, delayed work)

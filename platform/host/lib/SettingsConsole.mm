@@ -55,7 +55,7 @@ static void performOn(id target, SEL action, id argument) {
           "  flip N             turn a switch row over\n"
           "  switch N on|off    set a switch row\n"
           "  alert N            trigger the alert's action N (or: alert \"Title\")\n"
-          "  type 1234          enter a passcode on a passcode page\n"
+          "  type TEXT          enter a passcode, or text into the focused field (ends with Return)\n"
           "  back               go back one page\n"
           "  cancel             press the bar button of a modal page\n"
           "  wait SECONDS       let the app run (animations, delayed work)\n"
@@ -233,9 +233,27 @@ static void performOn(id target, SEL action, id argument) {
   return nil;
 }
 
+// The text field of the page that has the keyboard, if any.
+static UITextField *focusedTextField(UIView *view) {
+  for (UIView *subview in [view subviews]) {
+    if ([subview isHidden]) continue;
+    if ([subview isKindOfClass:[UITextField class]] && [subview isFirstResponder]) return (UITextField *)subview;
+    UITextField *inner = focusedTextField(subview);
+    if (inner != nil) return inner;
+  }
+  return nil;
+}
+
 - (NSString *)type:(NSString *)digits {
   UIView *field = [[self screen] passcodeField];
-  if (field == nil) return @"This page has no passcode entry.";
+  if (field == nil) {
+    // Any other page: the text goes into the field that has the keyboard, ended with Return.
+    UIViewController *page = [[self screen] page];
+    UITextField *text = [page isViewLoaded] ? focusedTextField([page view]) : nil;
+    if (text == nil) return @"This page has no text field to type into.";
+    [text insertText:[digits stringByAppendingString:@"\n"]];
+    return nil;
+  }
   NSCharacterSet *decimal = [NSCharacterSet decimalDigitCharacterSet];
   for (NSUInteger i = 0; i < [digits length]; i++) {
     if (![decimal characterIsMember:[digits characterAtIndex:i]]) return @"Type digits only, e.g. type 1234.";
@@ -264,11 +282,20 @@ static void performOn(id target, SEL action, id argument) {
   if ([screen alert] != nil) return @"Answer the alert first (alert N).";
   UINavigationController *navigation = [screen navigation];
   if (navigation == nil) return @"There is no page to go back from.";
-  if ([[navigation viewControllers] count] <= 1) {
-    return [screen modal] != nil ? @"This is a modal page: use cancel." : @"This is the Settings list already.";
+  if ([[navigation viewControllers] count] > 1) {
+    [navigation popViewControllerAnimated:YES];
+    return nil;
   }
-  [navigation popViewControllerAnimated:YES];
-  return nil;
+  if ([screen modal] != nil) return @"This is a modal page: use cancel.";
+  // The first page of a pane held inside the list's navigation: that one goes back to the list.
+  UIViewController *holder = [navigation parentViewController];
+  if ([holder isKindOfClass:[UINavigationController class]] &&
+      [[(UINavigationController *)holder viewControllers] count] > 1) {
+    [(UINavigationController *)holder popViewControllerAnimated:YES];
+    return nil;
+  }
+  return [holder isKindOfClass:[PSSplitViewController class]] ? @"The Settings list is beside this page already."
+                                                             : @"This is the Settings list already.";
 }
 
 - (NSString *)cancel {

@@ -116,15 +116,39 @@ NSString *SettingsScreenPageTitle(UIViewController *page) {
   return title != nil ? title : NSStringFromClass([page class]);
 }
 
-static UIViewController *topOf(UIViewController *controller) {
-  if ([controller isKindOfClass:[UINavigationController class]]) {
-    UINavigationController *navigation = (UINavigationController *)controller;
-    UIViewController *top = [navigation topViewController];
-    if (top == nil) top = [[navigation viewControllers] lastObject];
-    if (top == nil) top = [[navigation childViewControllers] lastObject];
-    return top;
+// The navigation controller whose top page is on screen inside `controller`: a pane's
+// navigation held as a level of the list's (phone), or the pane beside the list (iPad)
+// once it shows a page.
+static UINavigationController *shownNavigation(UIViewController *controller) {
+  if ([controller isKindOfClass:[PSSplitViewController class]]) {
+    NSArray *sides = [(PSSplitViewController *)controller viewControllers];
+    for (UIViewController *side in [sides reverseObjectEnumerator]) {
+      UINavigationController *inner = shownNavigation(side);
+      if ([[inner viewControllers] count] > 0) return inner;
+    }
+    return nil;
   }
+  if (![controller isKindOfClass:[UINavigationController class]]) return nil;
+  UIViewController *top = [(UINavigationController *)controller topViewController];
+  if ([top isKindOfClass:[UINavigationController class]]) return shownNavigation(top);
+  return (UINavigationController *)controller;
+}
+
+static UIViewController *topOf(UIViewController *controller) {
+  UINavigationController *navigation = shownNavigation(controller);
+  if (navigation != nil) return [navigation topViewController];
   return controller;
+}
+
+// Page titles from the Settings list down to the page on top, through nested navigations.
+static void addTrail(UIViewController *controller, NSMutableArray *trail) {
+  if ([controller isKindOfClass:[PSSplitViewController class]]) {
+    for (UIViewController *side in [(PSSplitViewController *)controller viewControllers]) addTrail(side, trail);
+  } else if ([controller isKindOfClass:[UINavigationController class]]) {
+    for (UIViewController *level in [(UINavigationController *)controller viewControllers]) addTrail(level, trail);
+  } else if (controller != nil) {
+    [trail addObject:SettingsScreenPageTitle(controller)];
+  }
 }
 
 // What `controller` (or the page it shows) has presented, if anything.
@@ -230,7 +254,7 @@ static NSString *valueText(id value, PSSpecifier *specifier) {
   NSMutableArray *lines = [NSMutableArray array];
   NSMutableArray *items = [NSMutableArray array];
 
-  UIViewController *root = SimSettingsRootController();
+  UIViewController *root = SimSettingsWindowRootController();
   if (root == nil) {
     [screen setText:@"(the Settings app has no window)\n"];
     [screen setItems:items];
@@ -239,7 +263,7 @@ static NSString *valueText(id value, PSSpecifier *specifier) {
 
   // Walk up the presentation chain: navigation controllers presented modally, then perhaps an alert.
   UIViewController *level = root;
-  UINavigationController *navigation = [root isKindOfClass:[UINavigationController class]] ? (UINavigationController *)root : nil;
+  UINavigationController *navigation = shownNavigation(root);
   UINavigationController *modal = nil;
   UIAlertController *alert = nil;
   for (int depth = 0; depth < 16; depth++) {
@@ -251,8 +275,8 @@ static NSString *valueText(id value, PSSpecifier *specifier) {
     }
     level = presented;
     if ([presented isKindOfClass:[UINavigationController class]]) {
-      navigation = (UINavigationController *)presented;
-      modal = navigation;
+      navigation = shownNavigation(presented);
+      modal = (UINavigationController *)presented;
     } else {
       navigation = nil;
       modal = nil;
@@ -266,11 +290,7 @@ static NSString *valueText(id value, PSSpecifier *specifier) {
 
   // Title bar: where we are, the page title and the bar buttons.
   NSMutableArray *trail = [NSMutableArray array];
-  if (modal == nil && navigation != nil) {
-    for (UIViewController *controller in [navigation viewControllers]) {
-      [trail addObject:SettingsScreenPageTitle(controller)];
-    }
-  }
+  if (modal == nil) addTrail(root, trail);
   NSString *title = SettingsScreenPageTitle(page);
   NSMutableArray *buttons = [NSMutableArray array];
   @try {

@@ -17,8 +17,21 @@
 @interface PrefsListController : PSListController
 @end
 
-/* Makes the Settings app's window, root navigation controller and root list page (once). */
+/* The iPad's Settings window: the list's navigation beside the pane's. */
+@interface PSSplitViewController : UIViewController
+/* The list's navigation controller, then the pane's. */
+@property(nonatomic, copy) NSArray *viewControllers;
+@end
+
+/* Makes the Settings app's window, its navigation and root list page (once). Returns the
+   pane navigation controller (the app's rootController), which holds the pages a row of the
+   list opens; its rootListController is the Settings list. The list has a navigation
+   controller of its own: on a phone the pane is pushed into it as one level above the list
+   (so a pane page's navigation controller has a parent that can pop it); on an iPad the
+   window shows a PSSplitViewController with the list beside the pane. */
 UIKIT_EXTERN PSRootController *SimSettingsRootController(void);
+/* The Settings window's root: the list's navigation controller, or the iPad's split view. */
+UIKIT_EXTERN UIViewController *SimSettingsWindowRootController(void);
 /* Rows of the Settings root list (for pages that read them). */
 UIKIT_EXTERN void SimSettingsSetRootSpecifiers(NSArray *specifiers);
 /* Drops the Settings window and its controllers (with SimUIKitReset). */

@@ -78,8 +78,25 @@ void SimSpringBoardStop(pid_t pid);
 }
 #endif
 
+/* The clock that the main run loop's delayed work waits on: main-queue dispatch_after,
+   performSelector:withObject:afterDelay: on the main thread and UIKit's animation and
+   transition timeline. It follows real time unless a test stops it: then time moves only
+   with SimClockAdvance (and SimRunLoopRunFor / SimRunLoopRunUntil, which advance it). */
+double SimClockNow(void);
+void SimClockUseVirtualTime(void);
+/* Back on real time; work the stopped clock had not reached waits the rest of its delay. */
+void SimClockUseRealTime(void);
+bool SimClockIsVirtual(void);
+/* Moves the stopped clock on by exactly `seconds`, running in due order everything that
+   falls due by then (each at its own time, work it schedules included) and whatever the
+   run loop has ready. Does nothing on real time. */
+void SimClockAdvance(double seconds);
+
 #ifdef __OBJC__
 #import <Foundation/Foundation.h>
+/* Runs `block` on the main thread `delay` seconds from now on the clock above, after
+   everything due at or before that moment. Main thread only. */
+FOUNDATION_EXPORT void SimClockSchedule(double delay, void (^block)(void));
 /* The profile of the device in use (an immutable dictionary; empty when none). */
 FOUNDATION_EXPORT NSDictionary *SimDeviceProfile(void);
 /* What this process asked of the platform, in order, one string each:

@@ -38,6 +38,12 @@ UIKIT_EXTERN BOOL SimTableViewSelectRow(UITableView *tableView, NSIndexPath *ind
 /* Commits an edit (e.g. a swipe-to-delete) through the table's data source. */
 UIKIT_EXTERN BOOL SimTableViewCommitEditing(UITableView *tableView, UITableViewCellEditingStyle style, NSIndexPath *indexPath);
 
+/* A navigation controller held as one level of another's stack, as a collapsed split view
+   shows its detail navigation on a phone (pushViewController:animated: refuses them). */
+@interface UINavigationController (Simulation)
+- (void)_simPushNavigationController:(UINavigationController *)nested animated:(BOOL)animated;
+@end
+
 /* Simulation details of some classes. */
 @interface UIImage (Simulation)
 /* What the image shows: a file name, "appicon:<bundle id>", "drawn"... */
