@@ -4,7 +4,7 @@
 #import "core/VersionFlags.h"
 #include "passcode/DevicePasscodeFlow.hpp"
 
-using namespace tessarin::passcode;
+namespace passcode = tessarin::passcode;
 
 // The root settings page, reached by name.
 @interface NSObject (TessarinRootPageLookup)
@@ -40,9 +40,9 @@ long long devicePasscodeLength(void) {
   return [length respondsToSelector:@selector(longLongValue)] ? [length longLongValue] : 0;
 }
 
-TokenAnswer tokenAnswer(id controller, SEL selector) {
-  if (![controller respondsToSelector:selector]) return TokenAnswer::NotAnswered;
-  return [controller performSelector:selector] != nil ? TokenAnswer::Present : TokenAnswer::Null;
+passcode::TokenAnswer tokenAnswer(id controller, SEL selector) {
+  if (![controller respondsToSelector:selector]) return passcode::TokenAnswer::NotAnswered;
+  return [controller performSelector:selector] != nil ? passcode::TokenAnswer::Present : passcode::TokenAnswer::Null;
 }
 
 }  // namespace
@@ -60,29 +60,29 @@ TokenAnswer tokenAnswer(id controller, SEL selector) {
   [super dealloc];
 }
 
-- (DevicePage)devicePage {
-  return DevicePage::Numeric;
+- (passcode::DevicePage)devicePage {
+  return passcode::DevicePage::Numeric;
 }
 
 - (void)startFlow {
   _errorCount = 0;
   delete _deviceFlow;
-  _deviceFlow = new DevicePasscodeFlow([self devicePage]);
+  _deviceFlow = new passcode::DevicePasscodeFlow([self devicePage]);
 }
 
 - (void)loadView {
   [self startFlow];
   [super loadView];
 
-  const int fields = entryFieldCount(devicePasscodeLength());
-  if (fields != kDigitEntryFields && [self.passcodeField respondsToSelector:@selector(setNumberOfEntryFields:)])
+  const int fields = passcode::entryFieldCount(devicePasscodeLength());
+  if (fields != passcode::kDigitEntryFields && [self.passcodeField respondsToSelector:@selector(setNumberOfEntryFields:)])
     [self.passcodeField setNumberOfEntryFields:fields];
   UIView *field = self.passcodeField;
   CGPoint centre = [field center];
   centre.x = [[self view] center].x;
   [field setCenter:centre];
 
-  [self.label setText:passcodePageText(DevicePasscodeFlow::initialPrompt())];
+  [self.label setText:passcodePageText(passcode::DevicePasscodeFlow::initialPrompt())];
   [self setTitle:passcodePageText(_deviceFlow->title())];
 }
 
@@ -90,21 +90,21 @@ TokenAnswer tokenAnswer(id controller, SEL selector) {
 // passcode; nil when the device has none of the system pages. +1.
 - (id)newSystemControllerForPasscode:(NSString *)passcode {
   id controller = nil;
-  systemControllerClass(hasPearl(), [&controller](std::string_view name) {
+  passcode::systemControllerClass(hasPearl(), [&controller](std::string_view name) {
     Class cls = NSClassFromString(nameOf(name));
     if (cls == Nil) return false;
     controller = [[cls alloc] initForContentSize:CGSizeZero];
     return controller != nil;
   });
   if (controller == nil) return nil;
-  PSSpecifier *specifier = [PSSpecifier preferenceSpecifierNamed:nameOf(kSystemSpecifierName)
+  PSSpecifier *specifier = [PSSpecifier preferenceSpecifierNamed:nameOf(passcode::kSystemSpecifierName)
                                                           target:nil
                                                              set:NULL
                                                              get:NULL
                                                           detail:Nil
-                                                            cell:(PSCellType)kSystemSpecifierCellType
+                                                            cell:(PSCellType)passcode::kSystemSpecifierCellType
                                                             edit:Nil];
-  [specifier setProperty:passcode forKey:nameOf(kSystemSpecifierPasscodeProperty)];
+  [specifier setProperty:passcode forKey:nameOf(passcode::kSystemSpecifierPasscodeProperty)];
   [controller setSpecifier:specifier];
   return controller;
 }
@@ -113,7 +113,7 @@ TokenAnswer tokenAnswer(id controller, SEL selector) {
   CGPoint centre = [[self view] center];
   if (_deviceFlow == nullptr) [self startFlow];
   id controller = nil;
-  Step step = _deviceFlow->enter(passcodeEntryView(passcode), [&](std::string_view) {
+  passcode::Step step = _deviceFlow->enter(passcodeEntryView(passcode), [&](std::string_view) {
     controller = [self newSystemControllerForPasscode:passcode];
     // Without a system page there is nothing to check with: refuse.
     if (controller == nil) return false;
@@ -124,8 +124,8 @@ TokenAnswer tokenAnswer(id controller, SEL selector) {
 
   if (step.success) {
     [[UIApplication sharedApplication] beginIgnoringInteractionEvents];
-    [self performSelector:@selector(dismissSelf) withObject:nil afterDelay:kSuccessDismissDelay];
-    [self performSelector:@selector(pushMesa:) withObject:controller afterDelay:kSuccessPushDelay];
+    [self performSelector:@selector(dismissSelf) withObject:nil afterDelay:passcode::kSuccessDismissDelay];
+    [self performSelector:@selector(pushMesa:) withObject:controller afterDelay:passcode::kSuccessPushDelay];
   } else {
     [self carryOutStep:step centre:centre];
   }
@@ -151,8 +151,8 @@ TokenAnswer tokenAnswer(id controller, SEL selector) {
 
 @implementation TessarinUserComplexPasscodeController
 
-- (DevicePage)devicePage {
-  return DevicePage::Complex;
+- (passcode::DevicePage)devicePage {
+  return passcode::DevicePage::Complex;
 }
 
 - (void)loadView {
@@ -160,27 +160,27 @@ TokenAnswer tokenAnswer(id controller, SEL selector) {
   NSAutoreleasePool *pool = [[NSAutoreleasePool alloc] init];
   CGFloat width = [[UIScreen mainScreen] bounds].size.width;
 
-  UIView *root = [[[UIView alloc] initWithFrame:passcodeRect(rootViewFrame(width))] autorelease];
-  [root setAutoresizingMask:kFlexibleSizeMask];
-  [root setBackgroundColor:passcodeColour(kComplexBackground)];
+  UIView *root = [[[UIView alloc] initWithFrame:passcodeRect(passcode::rootViewFrame(width))] autorelease];
+  [root setAutoresizingMask:passcode::kFlexibleSizeMask];
+  [root setBackgroundColor:passcodeColour(passcode::kComplexBackground)];
   if ([self respondsToSelector:@selector(setView:)]) [self setView:root];
 
-  UITextField *field = [[[UITextField alloc] initWithFrame:passcodeRect(complexFieldFrame(width))] autorelease];
+  UITextField *field = [[[UITextField alloc] initWithFrame:passcodeRect(passcode::complexFieldFrame(width))] autorelease];
   [field setSecureTextEntry:YES];
   [field setEnabled:YES];
   [field setBackgroundColor:[UIColor whiteColor]];
   [field setDelegate:self];
   self.passcodeField = field;
 
-  self.label = passcodePageLabel(complexPromptFrame(width), passcodePageText(DevicePasscodeFlow::initialPrompt()));
-  self.warnLabel = passcodePageLabel(complexWarningFrame(width), @"");
+  self.label = passcodePageLabel(passcode::complexPromptFrame(width), passcodePageText(passcode::DevicePasscodeFlow::initialPrompt()));
+  self.warnLabel = passcodePageLabel(passcode::complexWarningFrame(width), @"");
 
   [root addSubview:field];
   [root addSubview:self.label];
   [root addSubview:self.warnLabel];
 
   [self setTitle:passcodePageText(_deviceFlow->title())];
-  UIBarButtonItem *cancel = [[[UIBarButtonItem alloc] initWithTitle:passcodePageText(text::kCancel)
+  UIBarButtonItem *cancel = [[[UIBarButtonItem alloc] initWithTitle:passcodePageText(passcode::text::kCancel)
                                                               style:UIBarButtonItemStylePlain
                                                              target:self
                                                              action:@selector(cancelAndCleanup)] autorelease];

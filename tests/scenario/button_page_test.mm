@@ -89,7 +89,8 @@ protected:
         EXPECT_NE(rootClass, Nil);
         EXPECT_NE(pageClass, Nil);
         PSListController *root = [[[rootClass alloc] init] autorelease];
-        [SimSettingsRootController() pushViewController:root animated:NO];
+        // Opened as the Settings list opens the product's pane.
+        [[SimSettingsRootController() rootListController] pushController:root animate:NO];
         [root view];
         if (fromRootRow) {
             PSSpecifier *row = [root specifierForID:@"CIRCLE_COLOR"];
