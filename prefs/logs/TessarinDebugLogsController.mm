@@ -1,0 +1,201 @@
+#import "logs/TessarinDebugLogsController.h"
+#import "core/Alerts.h"
+#import "core/BundleLookup.h"
+#import "core/Endpoints.h"
+#import "core/Paths.h"
+#include "logs/CrashLogs.hpp"
+
+#include <stdio.h>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace {
+
+namespace logs = tessarin::logs;
+
+// The rows are rebuilt this long after a deletion, once the row's removal has played.
+const double kReloadDelay = 0.4;
+
+NSString *string(std::string_view text) {
+  return [[[NSString alloc] initWithBytes:text.data() length:text.size() encoding:NSUTF8StringEncoding] autorelease];
+}
+
+std::string stdString(id text) {
+  const char *bytes = [text isKindOfClass:[NSString class]] ? [(NSString *)text fileSystemRepresentation] : NULL;
+  return bytes != NULL ? std::string(bytes) : std::string();
+}
+
+NSString *logDirectory(void) { return string(logs::kLogDirectory); }
+
+// The file-system path of a file of the log directory.
+NSString *logPath(NSString *file) { return devicePath([logDirectory() stringByAppendingPathComponent:file]); }
+
+NSArray *directoryEntries(void) {
+  NSArray *names = [[NSFileManager defaultManager] contentsOfDirectoryAtPath:devicePath(logDirectory()) error:NULL];
+  return [names isKindOfClass:[NSArray class]] ? names : [NSArray array];
+}
+
+// The process named in the head of a log, when it names one.
+NSString *subtitleOfLog(NSString *file) {
+  FILE *log = fopen([logPath(file) fileSystemRepresentation], "rb");
+  if (log == NULL) return nil;
+  char head[logs::kHeadBytes];
+  const size_t length = fread(head, 1, sizeof head, log);
+  fclose(log);
+  std::optional<std::string> subtitle = logs::logSubtitle(std::string_view(head, length));
+  return subtitle ? string(*subtitle) : nil;
+}
+
+}  // namespace
+
+@implementation TessarinDebugLogsController
+
+- (NSArray *)specifiers {
+  if (_specifiers != nil) return _specifiers;
+
+  std::vector<logs::LogEntry> entries;
+  for (NSString *name in directoryEntries()) {
+    const std::string file = stdString(name);
+    entries.push_back({file, logs::logTimestamp(file)});
+  }
+  const std::vector<std::string> files = logs::newestFirst(std::move(entries));
+
+  NSMutableArray *rows = [NSMutableArray array];
+  if (files.empty()) {
+    PSSpecifier *nothing = [PSSpecifier groupSpecifierWithName:nil];
+    [nothing setProperty:localizedString(@"NO_CRASHES_RECORDED", @"No crashes recorded :)") forKey:@"footerText"];
+    [nothing setProperty:@(1) forKey:@"footerAlignment"];
+    [rows addObject:nothing];
+  }
+  [rows addObject:[PSSpecifier groupSpecifierWithName:localizedString(@"CRASH_LOGS_GROUP", @"Crash Logs")]];
+
+  Class viewer = [TessarinCrashLogViewer class];
+  Class cellClass = NSClassFromString(@"PSUIAppleIDAccountDetailsLinkCell");
+  for (const std::string &file : files) {
+    if (logs::isLatestName(file)) continue;
+    NSString *name = [[NSFileManager defaultManager] stringWithFileSystemRepresentation:file.c_str()
+                                                                                 length:file.size()];
+    PSSpecifier *row = [PSSpecifier preferenceSpecifierNamed:name
+                                                      target:nil
+                                                         set:NULL
+                                                         get:NULL
+                                                      detail:viewer
+                                                        cell:PSLinkCell
+                                                        edit:Nil];
+    if (cellClass != Nil) [row setProperty:cellClass forKey:@"cellClass"];
+    [row setProperty:name forKey:@"logFile"];
+    NSString *subtitle = subtitleOfLog(name);
+    if (subtitle != nil) [row setProperty:subtitle forKey:@"cellSubtitleText"];
+    [rows addObject:row];
+  }
+
+  _specifiers = [rows copy];
+  return _specifiers;
+}
+
+- (UITableViewCellEditingStyle)tableView:(UITableView *)tableView editingStyleForRowAtIndexPath:(NSIndexPath *)indexPath {
+  return UITableViewCellEditingStyleDelete;
+}
+
+- (BOOL)tableView:(UITableView *)tableView shouldIndentWhileEditingRowAtIndexPath:(NSIndexPath *)indexPath {
+  return YES;
+}
+
+- (BOOL)performDeletionActionForSpecifier:(PSSpecifier *)specifier {
+  NSFileManager *files = [NSFileManager defaultManager];
+  NSString *link = [files destinationOfSymbolicLinkAtPath:logPath(string(logs::kLatestLinkName)) error:NULL];
+  std::optional<std::string> linkFile;
+  if ([link isKindOfClass:[NSString class]]) linkFile = logs::latestLinkFile(stdString(link));
+
+  std::vector<std::string> entries;
+  for (NSString *name in directoryEntries()) entries.push_back(stdString(name));
+  for (const std::string &file : logs::filesToDelete(stdString([specifier propertyForKey:@"logFile"]), linkFile, entries)) {
+    NSString *name = [files stringWithFileSystemRepresentation:file.c_str() length:file.size()];
+    [files removeItemAtPath:logPath(name) error:NULL];
+  }
+
+  BOOL removed = [super performDeletionActionForSpecifier:specifier];
+  // Rebuilt a moment later, so the last deletion shows that nothing is left.
+  [self retain];
+  dispatch_after(dispatch_time(DISPATCH_TIME_NOW, (int64_t)(kReloadDelay * NSEC_PER_SEC)), dispatch_get_main_queue(), ^{
+    [self reloadSpecifiers];
+    [self release];
+  });
+  return removed;
+}
+
+@end
+
+@implementation TessarinCrashLogViewer
+
+@synthesize textView = _textView;
+
+- (void)dealloc {
+  [_textView release];
+  [super dealloc];
+}
+
+- (NSString *)logFile {
+  id file = [[self specifier] propertyForKey:@"logFile"];
+  return [file isKindOfClass:[NSString class]] ? file : nil;
+}
+
+- (void)loadView {
+  [super loadView];
+  UIImage *share = [UIImage imageNamed:@"share" inBundle:tessarinBundle() compatibleWithTraitCollection:nil];
+  UIBarButtonItem *button = [[UIBarButtonItem alloc] initWithImage:share
+                                                             style:UIBarButtonItemStyleDone
+                                                            target:self
+                                                            action:@selector(sendEmail:)];
+  [self.navigationItem setRightBarButtonItem:button animated:NO];
+  [button release];
+
+  UITextView *text = [[UITextView alloc] initWithFrame:self.view.bounds];
+  text.autoresizingMask = UIViewAutoresizingFlexibleWidth | UIViewAutoresizingFlexibleHeight;
+  text.editable = NO;
+  // A log that is not UTF-8 reads as nothing: the viewer stays empty.
+  NSString *file = [self logFile];
+  text.text = file != nil ? [NSString stringWithContentsOfFile:logPath(file) encoding:NSUTF8StringEncoding error:NULL]
+                          : nil;
+  [self.view addSubview:text];
+  self.textView = text;
+  [text release];
+}
+
+- (void)sendEmail:(id)sender {
+  MFMailComposeViewController *composer =
+      [MFMailComposeViewController canSendMail] ? [[[MFMailComposeViewController alloc] init] autorelease] : nil;
+  if (composer == nil) {
+    UIAlertAction *okay = [UIAlertAction actionWithTitle:localizedString(@"OKAY", @"Okay")
+                                                   style:UIAlertActionStyleCancel
+                                                 handler:^(UIAlertAction *action) {
+                                                 }];
+    showAlertWithTitleAndMessageAndAlertActionsFromViewControllerWithStyle(
+        localizedString(@"NO_MAIL_ACCOUNT_TITLE", @"No mail account"),
+        localizedString(@"NO_MAIL_ACCOUNT", @"This device cannot send mail. Add a mail account in Settings to send this crash log."),
+        [NSArray arrayWithObject:okay], self, UIAlertControllerStyleAlert);
+    return;
+  }
+  composer.mailComposeDelegate = self;
+  [composer setSubject:[NSString stringWithFormat:@"%@ Crash", string(tessarin::logs::kProductName)]];
+  [composer setMessageBody:self.textView.text isHTML:NO];
+  [composer setToRecipients:[NSArray arrayWithObject:kSupportAddress]];
+  [self presentViewController:composer animated:YES completion:nil];
+}
+
+- (void)mailComposeController:(MFMailComposeViewController *)controller
+          didFinishWithResult:(MFMailComposeResult)result
+                        error:(NSError *)error {
+  if (result == MFMailComposeResultSent) {
+    [self.navigationItem setRightBarButtonItem:nil animated:YES];
+    // The log has reached support: the page that opened it deletes it.
+    UIViewController *page = [self parentController];
+    if ([page respondsToSelector:@selector(performDeletionActionForSpecifier:)])
+      [(PSEditableListController *)page performDeletionActionForSpecifier:[self specifier]];
+  }
+  [self dismissViewControllerAnimated:YES completion:nil];
+}
+
+@end
