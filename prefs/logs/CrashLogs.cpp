@@ -4,6 +4,7 @@
 #include <cctype>
 #include <climits>
 #include <ctime>
+#include <time.h>
 
 namespace tessarin::logs {
 
@@ -51,6 +52,24 @@ int daysInMonth(int year, int month) {
   return month == 2 && leapYear(year) ? 29 : days[month - 1];
 }
 
+// Days from 1970-01-01 to a Gregorian date.
+int64_t daysSince1970(int year, int month, int day) {
+  const int64_t y = month <= 2 ? year - 1 : year;
+  const int64_t era = (y >= 0 ? y : y - 399) / 400;
+  const int64_t yearOfEra = y - era * 400;
+  const int64_t dayOfYear = (153 * (month + (month > 2 ? -3 : 9)) + 2) / 5 + day - 1;
+  const int64_t dayOfEra = yearOfEra * 365 + yearOfEra / 4 - yearOfEra / 100 + dayOfYear;
+  return era * 146097 + dayOfEra - 719468;
+}
+
+// Seconds the local zone is ahead of UTC at a moment (0 when it cannot be told).
+int64_t utcOffsetAt(int64_t seconds) {
+  const std::time_t moment = static_cast<std::time_t>(seconds);
+  std::tm local{};
+  if (localtime_r(&moment, &local) == nullptr) return 0;
+  return local.tm_gmtoff;
+}
+
 std::string withoutAll(std::string text, std::string_view part) {
   for (std::size_t at = text.find(part); at != std::string::npos; at = text.find(part, at)) text.erase(at, part.size());
   return text;
@@ -95,15 +114,13 @@ std::optional<CrashTime> crashTime(std::string_view fileName) {
 
 uint64_t secondsSince1970(const CrashTime &time) {
   if (time.year < 1970) return 0;
-  std::tm fields{};
-  fields.tm_year = time.year - 1900;
-  fields.tm_mon = time.month - 1;
-  fields.tm_mday = time.day;
-  fields.tm_hour = time.hour;
-  fields.tm_min = time.minute;
-  fields.tm_sec = time.second;
-  fields.tm_isdst = -1;
-  const std::time_t seconds = std::mktime(&fields);
+  // The moment as if it were UTC, then moved by the zone's offset at that moment. (mktime
+  // would do the same but re-reads the zone on every call, which a list of a thousand
+  // logs notices.)
+  const int64_t asUTC = daysSince1970(time.year, time.month, time.day) * 86400 + time.hour * 3600 +
+                        time.minute * 60 + time.second;
+  int64_t seconds = asUTC - utcOffsetAt(asUTC);
+  seconds = asUTC - utcOffsetAt(seconds);  // the offset in force at the local moment itself
   return seconds > 0 ? static_cast<uint64_t>(seconds) : 0;
 }
 

@@ -33,8 +33,8 @@ struct CrashTime {
 // a real date (February 30th, hour 24...).
 std::optional<CrashTime> crashTime(std::string_view fileName);
 
-// Seconds since 1970 of a moment read as local time (mktime; DST decided by the
-// system); 0 before 1970 or when it cannot be represented.
+// Seconds since 1970 of a moment read as local time (the zone's offset at that moment);
+// 0 before 1970.
 uint64_t secondsSince1970(const CrashTime &time);
 
 // The list's sort key of a file name: 0 when the name does not parse.

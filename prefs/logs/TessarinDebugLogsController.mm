@@ -5,7 +5,10 @@
 #import "core/Paths.h"
 #include "logs/CrashLogs.hpp"
 
-#include <stdio.h>
+#include <dirent.h>
+#include <fcntl.h>
+#include <string.h>
+#include <unistd.h>
 
 #include <optional>
 #include <string>
@@ -32,18 +35,36 @@ NSString *logDirectory(void) { return string(logs::kLogDirectory); }
 // The file-system path of a file of the log directory.
 NSString *logPath(NSString *file) { return devicePath([logDirectory() stringByAppendingPathComponent:file]); }
 
-NSArray *directoryEntries(void) {
-  NSArray *names = [[NSFileManager defaultManager] contentsOfDirectoryAtPath:devicePath(logDirectory()) error:NULL];
-  return [names isKindOfClass:[NSArray class]] ? names : [NSArray array];
+// The names in the log directory (none when it is missing). Read straight from the
+// directory: a list of thousands of logs should not cost a look at each file.
+std::vector<std::string> directoryEntries(void) {
+  std::vector<std::string> names;
+  DIR *directory = opendir([devicePath(logDirectory()) fileSystemRepresentation]);
+  if (directory == NULL) return names;
+  while (struct dirent *entry = readdir(directory)) {
+    if (strcmp(entry->d_name, ".") == 0 || strcmp(entry->d_name, "..") == 0) continue;
+    names.emplace_back(entry->d_name);
+  }
+  closedir(directory);
+  return names;
 }
 
-// The process named in the head of a log, when it names one.
-NSString *subtitleOfLog(NSString *file) {
-  FILE *log = fopen([logPath(file) fileSystemRepresentation], "rb");
-  if (log == NULL) return nil;
+NSString *fileName(const std::string &file) {
+  return [[NSFileManager defaultManager] stringWithFileSystemRepresentation:file.c_str() length:file.size()];
+}
+
+// The process named in the head of a log (`path`: its file-system path), when it names one.
+NSString *subtitleOfLog(const std::string &path) {
+  const int log = open(path.c_str(), O_RDONLY);
+  if (log < 0) return nil;
   char head[logs::kHeadBytes];
-  const size_t length = fread(head, 1, sizeof head, log);
-  fclose(log);
+  size_t length = 0;
+  while (length < sizeof head) {
+    const ssize_t got = read(log, head + length, sizeof head - length);
+    if (got <= 0) break;
+    length += (size_t)got;
+  }
+  close(log);
   std::optional<std::string> subtitle = logs::logSubtitle(std::string_view(head, length));
   return subtitle ? string(*subtitle) : nil;
 }
@@ -56,9 +77,9 @@ NSString *subtitleOfLog(NSString *file) {
   if (_specifiers != nil) return _specifiers;
 
   std::vector<logs::LogEntry> entries;
-  for (NSString *name in directoryEntries()) {
-    const std::string file = stdString(name);
-    entries.push_back({file, logs::logTimestamp(file)});
+  for (std::string &file : directoryEntries()) {
+    const uint64_t timestamp = logs::logTimestamp(file);
+    entries.push_back({std::move(file), timestamp});
   }
   const std::vector<std::string> files = logs::newestFirst(std::move(entries));
 
@@ -71,12 +92,12 @@ NSString *subtitleOfLog(NSString *file) {
   }
   [rows addObject:[PSSpecifier groupSpecifierWithName:localizedString(@"CRASH_LOGS_GROUP", @"Crash Logs")]];
 
+  const std::string directory = devicePath(std::string(logs::kLogDirectory).c_str()) + "/";
   Class viewer = [TessarinCrashLogViewer class];
   Class cellClass = NSClassFromString(@"PSUIAppleIDAccountDetailsLinkCell");
   for (const std::string &file : files) {
     if (logs::isLatestName(file)) continue;
-    NSString *name = [[NSFileManager defaultManager] stringWithFileSystemRepresentation:file.c_str()
-                                                                                 length:file.size()];
+    NSString *name = fileName(file);
     PSSpecifier *row = [PSSpecifier preferenceSpecifierNamed:name
                                                       target:nil
                                                          set:NULL
@@ -86,7 +107,7 @@ NSString *subtitleOfLog(NSString *file) {
                                                         edit:Nil];
     if (cellClass != Nil) [row setProperty:cellClass forKey:@"cellClass"];
     [row setProperty:name forKey:@"logFile"];
-    NSString *subtitle = subtitleOfLog(name);
+    NSString *subtitle = subtitleOfLog(directory + file);
     if (subtitle != nil) [row setProperty:subtitle forKey:@"cellSubtitleText"];
     [rows addObject:row];
   }
@@ -109,12 +130,9 @@ NSString *subtitleOfLog(NSString *file) {
   std::optional<std::string> linkFile;
   if ([link isKindOfClass:[NSString class]]) linkFile = logs::latestLinkFile(stdString(link));
 
-  std::vector<std::string> entries;
-  for (NSString *name in directoryEntries()) entries.push_back(stdString(name));
-  for (const std::string &file : logs::filesToDelete(stdString([specifier propertyForKey:@"logFile"]), linkFile, entries)) {
-    NSString *name = [files stringWithFileSystemRepresentation:file.c_str() length:file.size()];
-    [files removeItemAtPath:logPath(name) error:NULL];
-  }
+  const std::string rowFile = stdString([specifier propertyForKey:@"logFile"]);
+  for (const std::string &file : logs::filesToDelete(rowFile, linkFile, directoryEntries()))
+    [files removeItemAtPath:logPath(fileName(file)) error:NULL];
 
   BOOL removed = [super performDeletionActionForSpecifier:specifier];
   // Rebuilt a moment later, so the last deletion shows that nothing is left.

@@ -58,6 +58,22 @@ TEST_F(CrashLogs, TimestampFromName) {
   for (const Case &c : cases) EXPECT_EQ(logTimestamp(c.name), c.seconds) << c.name;
 }
 
+TEST_F(CrashLogs, NamesAreLocalTime) {
+  setenv("TZ", "CET-1CEST,M3.5.0,M10.5.0/3", 1);
+  tzset();
+  struct Case {
+    const char *name;
+    uint64_t seconds;
+  };
+  const Case cases[] = {
+      {"Tessarin-05-Mar-2024-14-07-09.log", 1709644029},  // winter: UTC+1
+      {"Tessarin-01-Jul-2024-12-00-00.log", 1719828000},  // summer: UTC+2
+      {"Tessarin-31-Mar-2024-01-59-59.log", 1711846799},  // the last second before the change
+      {"Tessarin-31-Mar-2024-03-00-00.log", 1711846800},  // the first one after it
+  };
+  for (const Case &c : cases) EXPECT_EQ(logTimestamp(c.name), c.seconds) << c.name;
+}
+
 TEST_F(CrashLogs, NewestFirst) {
   const std::string a = "Tessarin-05-Mar-2024-14-07-09.log";
   const std::string b = "Tessarin-06-Mar-2024-08-00-00.log";
