@@ -167,9 +167,17 @@ std::string latestLinkFile(std::string_view linkTarget) {
   return std::string(file);
 }
 
+bool isPlainFileName(std::string_view name) {
+  return !name.empty() && name != "." && name != ".." && name.find('/') == std::string_view::npos &&
+         name.find('\0') == std::string_view::npos;
+}
+
 std::vector<std::string> filesToDelete(std::string_view rowFile, const std::optional<std::string> &linkFile,
                                        const std::vector<std::string> &directoryEntries) {
   std::vector<std::string> files;
+  // Only a file of the log directory itself is ever deleted: never the directory, nothing
+  // above or below it.
+  if (!isPlainFileName(rowFile)) return files;
   if (beginsWith(rowFile, "Latest")) {
     if (linkFile)
       for (const std::string &entry : directoryEntries)

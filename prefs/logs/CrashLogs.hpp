@@ -62,9 +62,13 @@ std::optional<std::string> logSubtitle(std::string_view head);
 // directory's path and the slash after it.
 std::string latestLinkFile(std::string_view linkTarget);
 
+// A name that stands for a file inside a directory: not empty, not "." or "..", no slash.
+bool isPlainFileName(std::string_view name);
+
 // The files of the log directory to delete for a row. A row whose file begins with
 // "Latest" removes every directory entry named as the link's target; any other row
-// removes its own file and, when it is the link's target, the link too.
+// removes its own file and, when it is the link's target, the link too. A row whose
+// file is not a plain file name removes nothing.
 std::vector<std::string> filesToDelete(std::string_view rowFile, const std::optional<std::string> &linkFile,
                                        const std::vector<std::string> &directoryEntries);
 

@@ -98,6 +98,7 @@ NSString *subtitleOfLog(const std::string &path) {
   for (const std::string &file : files) {
     if (logs::isLatestName(file)) continue;
     NSString *name = fileName(file);
+    if (name == nil) continue;  // a name the system cannot show
     PSSpecifier *row = [PSSpecifier preferenceSpecifierNamed:name
                                                       target:nil
                                                          set:NULL
@@ -131,8 +132,10 @@ NSString *subtitleOfLog(const std::string &path) {
   if ([link isKindOfClass:[NSString class]]) linkFile = logs::latestLinkFile(stdString(link));
 
   const std::string rowFile = stdString([specifier propertyForKey:@"logFile"]);
-  for (const std::string &file : logs::filesToDelete(rowFile, linkFile, directoryEntries()))
-    [files removeItemAtPath:logPath(fileName(file)) error:NULL];
+  for (const std::string &file : logs::filesToDelete(rowFile, linkFile, directoryEntries())) {
+    NSString *name = fileName(file);
+    if (name != nil) [files removeItemAtPath:logPath(name) error:NULL];
+  }
 
   BOOL removed = [super performDeletionActionForSpecifier:specifier];
   // Rebuilt a moment later, so the last deletion shows that nothing is left.

@@ -149,6 +149,12 @@ TEST_F(CrashLogs, Deletion) {
       {"through the link: its target", "Latest-Tessarin.log", link, {newest}},
       {"through the link, target gone", "Latest-Tessarin.log", std::string("Tessarin-gone.log"), {}},
       {"through the link, no link", "Latest-Tessarin.log", std::nullopt, {}},
+      // A row without a file, or one naming a path, must never reach the directory itself.
+      {"no file", "", link, {}},
+      {"the directory", ".", link, {}},
+      {"above it", "..", link, {}},
+      {"a path", "../Preferences/net.corvane.tessarin.plist", link, {}},
+      {"a path inside", "sub/" + newest, link, {}},
   };
   for (const Case &c : cases) EXPECT_EQ(filesToDelete(c.row, c.link, dir), c.files) << c.name;
 }

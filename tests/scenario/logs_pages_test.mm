@@ -291,3 +291,19 @@ TEST_F(LogsPagesTest, WithoutAMailAccountTheShareButtonSaysSo) {
     EXPECT_TRUE(LogExists(kNewest));
     EXPECT_NE(Row(page, kNewest), nil);
 }
+
+TEST_F(LogsPagesTest, ARowWithoutALogFileDeletesNothing) {
+    Start();
+    PSEditableListController *page = OpenPage();
+    for (id file : @[ [NSNull null], @"", @"..", @"../../Preferences" ]) {
+        PSSpecifier *row = [PSSpecifier preferenceSpecifierNamed:@"Odd" target:nil set:NULL get:NULL detail:Nil
+                                                            cell:PSLinkCell edit:Nil];
+        if ([file isKindOfClass:[NSString class]]) [row setProperty:file forKey:@"logFile"];
+        [page addSpecifier:row];
+        EXPECT_TRUE([page performDeletionActionForSpecifier:row]);
+    }
+    EXPECT_EQ([[[NSFileManager defaultManager] contentsOfDirectoryAtPath:HostPathString(@(kDir)) error:NULL] count], 5u);
+    EXPECT_TRUE(DeviceFileExists("/var/mobile/Library/Preferences"));
+    SimRunLoopRunFor(kReloadSettle);
+    EXPECT_EQ([logRows([page specifiers]) count], 4u);
+}
