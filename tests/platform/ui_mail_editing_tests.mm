@@ -74,6 +74,24 @@
 }
 @end
 
+// Where a tap recognizer says the touch was, in the window and in its own view.
+@interface UITestTapLocation : NSObject {
+    CGPoint _inWindow;
+    CGPoint _inView;
+}
+@property(nonatomic) CGPoint inWindow;
+@property(nonatomic) CGPoint inView;
+@end
+@implementation UITestTapLocation
+@synthesize inWindow = _inWindow;
+@synthesize inView = _inView;
+- (void)tapped:(UIGestureRecognizer *)recognizer
+{
+    _inWindow = [recognizer locationInView:nil];
+    _inView = [recognizer locationInView:recognizer.view];
+}
+@end
+
 namespace {
 
 class UIMailEditingTest : public DeviceTest {
@@ -140,3 +158,22 @@ TEST_F(UIMailEditingTest, SwipeToDeleteRemovesTheRowThenRunsItsAction)
 }
 
 }  // namespace
+
+TEST_F(UIMailEditingTest, TapLocationsAreInWindowCoordinates)
+{
+    UseDevice("iphone-faceid-ios16");
+    UIWindow *window = [[[UIWindow alloc] initWithFrame:CGRectMake(0, 0, 393, 852)] autorelease];
+    UIView *row = [[[UIView alloc] initWithFrame:CGRectMake(0, 300, 393, 44)] autorelease];
+    UIView *content = [[[UIView alloc] initWithFrame:CGRectMake(50, 0, 300, 44)] autorelease];
+    [window addSubview:row];
+    [row addSubview:content];
+    UITestTapLocation *target = [[[UITestTapLocation alloc] init] autorelease];
+    [content addGestureRecognizer:[[[UITapGestureRecognizer alloc] initWithTarget:target action:@selector(tapped:)] autorelease]];
+
+    EXPECT_TRUE(SimTapView(content, CGPointMake(149.9, 10)));
+    EXPECT_NEAR(target.inWindow.x, 199.9, 1e-9);
+    EXPECT_NEAR(target.inWindow.y, 310, 1e-9);
+    EXPECT_NEAR(target.inView.x, 149.9, 1e-9);
+    EXPECT_NEAR(target.inView.y, 10, 1e-9);
+    window.hidden = YES;
+}
