@@ -8,7 +8,8 @@
 #   - every Objective-C++ source also sees the global names Apple's SDK headers declare
 #     (device-check/sdk-global-names.h), so a collision with one of ours shows here;
 #   - TESSARIN_SIMULATED=0, private frameworks only from prefs/core/ios/, the UIKit,
-#     CoreFoundation, substrate, libroot, notify and dispatch stand-ins in place of the SDK;
+#     CoreFoundation, MessageUI, substrate, libroot, notify and dispatch stand-ins in place
+#     of the SDK;
 #   - -Wall -Werror, as Theos builds;
 #   - last, a short list of library parts newer than iOS 12 that no compiler here can see,
 #     refused by name.
@@ -47,7 +48,6 @@ for f in "$top"/platform/include/*; do
   case $(basename "$f") in Preferences|PreferencesUI|AppSupport|ManagedConfiguration|PassKit|IOKit|Simulator|dlfcn.h) ;;
     *) ln -s "$f" "$inc/$(basename "$f")";; esac
 done
-ln -s "$here/include/MessageUI" "$inc/MessageUI"
 printf 'typedef unsigned int mach_port_t;\ntypedef int kern_return_t;\n' >"$inc/mach/mach.h"
 gcc_objc=$(ls -d /usr/lib/gcc/*-linux-gnu/*/include | tail -1)
 

@@ -1,6 +1,7 @@
 #import "root/TessarinPrefsListController.h"
 #import "core/Alerts.h"
 #import "core/BundleLookup.h"
+#import "core/Endpoints.h"
 #import "core/Hardware.h"
 #import "core/Paths.h"
 #import "core/PreferenceStore.h"
@@ -24,8 +25,6 @@ namespace root = tessarin::root;
 
 // The root page that last built its rows; not retained, cleared when it goes away.
 TessarinPrefsListController *sharedRootPage = nil;
-
-NSString *const kCatalogueURL = @"https://corvane.example/apps";
 
 NSString *string(std::string_view text) {
   return [[[NSString alloc] initWithBytes:text.data() length:text.size() encoding:NSUTF8StringEncoding] autorelease];

@@ -22,6 +22,7 @@ const ProfileCase kProfiles[] = {
     {"iphone-touchid-ios14", "Version 14.8 (Build 18H17)", "iPhone10,1", "/usr/lib/libflipswitch.dylib"},
     {"ipad-ios15", "Version 15.7 (Build 19H12)", "iPad13,1", nullptr},
     {"iphone-ios17", "Version 17.0 (Build 21A329)", "iPhone15,4", "/var/jb/usr/lib/libflipswitch.dylib"},
+    {"iphone-ios12", "Version 12.4 (Build 16G77)", "iPhone10,3", "/usr/lib/libflipswitch.dylib"},
     {"iphone-ios11", "Version 11.4 (Build 15F79)", "iPhone8,1", nullptr},
     {"iphone-nopasscode-ios16", "Version 16.2 (Build 20C65)", "iPhone14,5", nullptr},
 };
@@ -40,6 +41,25 @@ TEST_F(SimulatorTest, EveryProfileMakesADevice)
         EXPECT_EQ(stat(HostPath("/var/mobile/Library/Preferences").c_str(), &st), 0);
         if (c.addOn) EXPECT_EQ(stat(HostPath(c.addOn).c_str(), &st), 0) << c.addOn;
     }
+}
+
+TEST_F(SimulatorTest, ProfileFilesAndLinks)
+{
+    UseDevice("iphone-faceid-ios16");
+    NSString *dir = @"/var/mobile/Library/Logs/Tessarin";
+    NSFileManager *fm = [NSFileManager defaultManager];
+    NSArray *names = [[fm contentsOfDirectoryAtPath:HostPathString(dir) error:NULL]
+        sortedArrayUsingSelector:@selector(compare:)];
+    EXPECT_EQ([names count], 5u);
+    // The link holds the device path it was given, as the device would.
+    NSString *link = [fm destinationOfSymbolicLinkAtPath:HostPathString([dir stringByAppendingPathComponent:@"Latest-Tessarin.log"])
+                                                   error:NULL];
+    EXPECT_NSEQ(link, @"/var/mobile/Library/Logs/Tessarin/Tessarin-12-Nov-2026-08-15-42.log");
+    // Data contents are written as they are: this one is not UTF-8.
+    NSData *raw = [NSData dataWithContentsOfFile:HostPathString([dir stringByAppendingPathComponent:@"Tessarin-28-Oct-2026-09-30-00.log"])];
+    ASSERT_NE(raw, nil);
+    EXPECT_GT([raw length], 0u);
+    EXPECT_EQ([[[NSString alloc] initWithData:raw encoding:NSUTF8StringEncoding] autorelease], nil);
 }
 
 TEST_F(SimulatorTest, PasscodeCharacteristicsAreDerived)

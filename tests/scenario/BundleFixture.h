@@ -3,6 +3,7 @@
 #pragma once
 
 #import <Foundation/Foundation.h>
+@class UIViewController;
 #include <dlfcn.h>
 #include <gtest/gtest.h>
 #include <sys/types.h>
@@ -28,6 +29,10 @@ protected:
         EXPECT_NE(symbol, nullptr) << name;
         return reinterpret_cast<T>(symbol);
     }
+
+    // Shows `page` as the Settings list opens a pane: the first page of the pane's own
+    // navigation controller (the application's rootController), on screen.
+    void ShowAsSettingsPane(UIViewController *page);
 
     // File helpers on device paths.
     bool DeviceFileExists(const char *devicePath) const;

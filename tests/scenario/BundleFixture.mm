@@ -1,6 +1,7 @@
 #import "BundleFixture.h"
 #include <unistd.h>
 #import "SettingsHost.h"
+#import <Preferences/PreferencesSimulation.h>
 
 void BundleTest::TearDown() {
     StopSpringBoard();
@@ -57,4 +58,8 @@ NSData *BundleTest::ReadDeviceFile(const char *devicePath) const {
 NSDictionary *BundleTest::StoredPreferences() const {
     return [NSDictionary
         dictionaryWithContentsOfFile:@(HostPath("/var/mobile/Library/Preferences/net.corvane.tessarin.plist").c_str())];
+}
+
+void BundleTest::ShowAsSettingsPane(UIViewController *page) {
+    [[SimSettingsRootController() rootListController] pushController:page animate:NO];
 }

@@ -89,8 +89,7 @@ protected:
         EXPECT_NE(rootClass, Nil);
         EXPECT_NE(pageClass, Nil);
         PSListController *root = [[[rootClass alloc] init] autorelease];
-        // Opened as the Settings list opens the product's pane.
-        [[SimSettingsRootController() rootListController] pushController:root animate:NO];
+        ShowAsSettingsPane(root);
         [root view];
         if (fromRootRow) {
             PSSpecifier *row = [root specifierForID:@"CIRCLE_COLOR"];

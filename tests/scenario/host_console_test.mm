@@ -199,3 +199,43 @@ TEST_F(HostConsoleTest, TheComplexDevicePasscodePageTakesTypedText) {
   EXPECT_FALSE(Contains(unlocked, "(modal page)")) << unlocked;
   EXPECT_TRUE(Contains(unlocked, "Settings > Tessarin > MESA")) << unlocked;  // the unlocked system page
 }
+
+TEST_F(HostConsoleTest, ANetworksPasswordIsCopiedByATouchOnItsLeftAndShownByPasteboard) {
+  OpenSettings();
+  Tap("Trusted Wi-Fi networks");
+  EXPECT_TRUE(Contains(screen_, "Pass: correct horse")) << screen_;
+  const std::string home = std::to_string(NumberOf(screen_, "Home Network"));
+  EXPECT_TRUE(Contains(Run("touch " + home + " 250"), "Home Network"));
+  EXPECT_TRUE(Contains(Run("pasteboard"), "The pasteboard is empty."));
+  EXPECT_TRUE(Contains(Run("touch " + home + " 120"), "Tessarin Nova"));
+  EXPECT_EQ(Run("pasteboard"), "Pasteboard: correct horse\n");
+  EXPECT_TRUE(Contains(Run("touch " + home), "Unknown command"));
+}
+
+TEST_F(HostConsoleTest, ALogIsReadMailedAndDeleted) {
+  OpenSettings();
+  Tap("Crash logs");
+  EXPECT_TRUE(Contains(screen_, "SpringBoard [57]")) << screen_;
+  EXPECT_FALSE(Contains(screen_, "Latest-Tessarin.log")) << screen_;
+  Tap("Tessarin-03-Nov-2026-21-04-10.log");
+  EXPECT_TRUE(Contains(screen_, "index 3 beyond bounds")) << screen_;
+  EXPECT_TRUE(Contains(screen_, "[share]")) << screen_;
+  EXPECT_TRUE(Contains(Run("mail send"), "No mail is being written."));
+
+  std::string composer = Run("share");
+  EXPECT_TRUE(Contains(composer, "To: support@corvane.example")) << composer;
+  EXPECT_TRUE(Contains(composer, "Subject: Tessarin Crash")) << composer;
+  EXPECT_TRUE(Contains(Run("mail cancel"), "[share]"));
+  Run("share");
+  EXPECT_FALSE(Contains(Run("mail send"), "[share]")) << screen_;
+  Run("back");
+  EXPECT_FALSE(Contains(screen_, "Tessarin-03-Nov-2026-21-04-10.log")) << screen_;
+
+  // Deleting by number: the newest log goes (with the latest link).
+  EXPECT_TRUE(Contains(Run("delete 1"), "Crash logs"));
+  EXPECT_FALSE(Contains(screen_, "Tessarin-12-Nov-2026-08-15-42.log")) << screen_;
+  EXPECT_FALSE(DeviceFileExists("/var/mobile/Library/Logs/Tessarin/Tessarin-12-Nov-2026-08-15-42.log"));
+  EXPECT_TRUE(Contains(Run("delete 9"), "Choose a number"));
+  Run("back");
+  EXPECT_TRUE(Contains(Run("delete 1"), "Rows of this page cannot be deleted."));
+}

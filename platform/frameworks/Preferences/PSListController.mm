@@ -679,13 +679,13 @@ static PSCellType defaultCellType(NSString *name) {
   PSSpecifier *s = [self specifierAtIndexPath:indexPath];
   if (s) [self performDeletionActionForSpecifier:s];
 }
+// As the framework does it: the row goes first, then its own "deletionAction" (if any) runs.
 - (BOOL)performDeletionActionForSpecifier:(PSSpecifier *)specifier {
-  SEL deletion = NSSelectorFromString(@"deletionAction");
-  id action = [specifier propertyForKey:@"deletionAction"];
-  if ([action isKindOfClass:[NSString class]]) deletion = NSSelectorFromString(action);
-  if ([action isKindOfClass:[NSString class]] && [specifier.target respondsToSelector:deletion])
-    [specifier.target performSelector:deletion withObject:specifier];
+  [[specifier retain] autorelease];
   [self removeSpecifier:specifier animated:YES];
+  id action = [specifier propertyForKey:@"deletionAction"];
+  SEL deletion = [action isKindOfClass:[NSString class]] ? NSSelectorFromString(action) : NULL;
+  if (deletion && [specifier.target respondsToSelector:deletion]) [specifier.target performSelector:deletion withObject:specifier];
   return YES;
 }
 @end
@@ -853,4 +853,19 @@ BOOL SimListControllerTapSpecifier(PSListController *controller, PSSpecifier *sp
   }
   if (!cell.userInteractionEnabled) return NO;
   return SimTableViewSelectRow(table, path);
+}
+
+BOOL SimEditableListSwipeToDelete(PSListController *controller, PSSpecifier *specifier) {
+  if (!controller || !specifier || [[UIApplication sharedApplication] isIgnoringInteractionEvents]) return NO;
+  [controller view];
+  NSIndexPath *path = [controller indexPathForSpecifier:specifier];
+  UITableView *table = [controller table];
+  if (!path || !table) return NO;
+  // The swipe offers a delete button only for rows whose editing style is delete.
+  id<UITableViewDelegate> delegate = table.delegate;
+  UITableViewCellEditingStyle style = UITableViewCellEditingStyleDelete;
+  if ([delegate respondsToSelector:@selector(tableView:editingStyleForRowAtIndexPath:)])
+    style = [delegate tableView:table editingStyleForRowAtIndexPath:path];
+  if (style != UITableViewCellEditingStyleDelete) return NO;
+  return SimTableViewCommitEditing(table, UITableViewCellEditingStyleDelete, path);
 }

@@ -2,6 +2,13 @@
 #import <Preferences/PreferencesSimulation.h>
 #include <CoreFoundation/CoreFoundation.h>
 #include <notify.h>
+#include <Simulator/Simulator.h>
+
+// The framework has groupSpecifierWithHeader:footer: from iOS 13 on.
+static BOOL systemHasHeaderFooterGroups(void) {
+  id version = [SimDeviceProfile() objectForKey:@"systemVersion"];
+  return ![version isKindOfClass:[NSString class]] || [version integerValue] >= 13;
+}
 
 NSString *const PSIDKey = @"id";
 NSString *const PSKeyNameKey = @"key";
@@ -54,6 +61,10 @@ NSString *const PSTargetKey = @"target";
 }
 + (instancetype)groupSpecifierWithName:(NSString *)name {
   return [self preferenceSpecifierNamed:name target:nil set:NULL get:NULL detail:Nil cell:PSGroupCell edit:Nil];
+}
++ (BOOL)respondsToSelector:(SEL)selector {
+  if (sel_isEqual(selector, @selector(groupSpecifierWithHeader:footer:))) return systemHasHeaderFooterGroups();
+  return [super respondsToSelector:selector];
 }
 + (instancetype)groupSpecifierWithHeader:(NSString *)header footer:(NSString *)footer {
   PSSpecifier *s = [self groupSpecifierWithName:header];

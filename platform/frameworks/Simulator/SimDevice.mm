@@ -118,16 +118,21 @@ static BOOL writeEntry(NSString *root, id entry)
 {
     NSString *devicePath = nil;
     id contents = nil;
+    id linkTarget = nil;
     if ([entry isKindOfClass:[NSString class]]) {
         devicePath = entry;
     } else if ([entry isKindOfClass:[NSDictionary class]]) {
         devicePath = [entry objectForKey:@"path"];
         contents = [entry objectForKey:@"contents"];
+        linkTarget = [entry objectForKey:@"symlink"];
     }
     if (![devicePath isKindOfClass:[NSString class]] || ![devicePath isAbsolutePath]) return NO;
     NSString *hostPath = [root stringByAppendingString:devicePath];
     if ([devicePath hasSuffix:@"/"]) return SimMakeDirectories(hostPath);
     if (!SimMakeDirectories([hostPath stringByDeletingLastPathComponent])) return NO;
+    // A symbolic link holds its target as written: a device path, as the device would have it.
+    if ([linkTarget isKindOfClass:[NSString class]])
+        return symlink([linkTarget fileSystemRepresentation], [hostPath fileSystemRepresentation]) == 0;
     NSData *data = nil;
     if ([contents isKindOfClass:[NSString class]]) {
         data = [contents dataUsingEncoding:NSUTF8StringEncoding];

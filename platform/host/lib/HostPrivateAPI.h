@@ -6,3 +6,4 @@
 #import <UIKit/UIKitSimulation.h>
 #import <Preferences/Preferences.h>
 #import <Preferences/PreferencesSimulation.h>
+#import <MessageUI/MessageUISimulation.h>

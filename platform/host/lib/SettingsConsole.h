@@ -10,6 +10,11 @@
 //   type TEXT             enter a passcode on a passcode page, else TEXT and Return in the focused field
 //   back                  go back one page
 //   cancel                the bar button of a modal page
+//   delete N              swipe row N away on an editable list
+//   touch N X             tap row N's cell X points from the screen's left edge
+//   share                 the share button of the page (its right bar button)
+//   mail send|save|cancel|fail   answer the mail composer on screen
+//   pasteboard            print what the general pasteboard holds
 //   wait SECONDS          let the app run (animations, delayed work)
 //   show                  print the screen again
 //   quit                  leave

@@ -58,6 +58,11 @@ static void performOn(id target, SEL action, id argument) {
           "  type TEXT          enter a passcode, or text into the focused field (ends with Return)\n"
           "  back               go back one page\n"
           "  cancel             press the bar button of a modal page\n"
+          "  delete N           swipe row N away (crash logs)\n"
+          "  touch N X          tap row N X points from the screen's left edge\n"
+          "  share              press the page's share button\n"
+          "  mail send          answer the mail composer: send, save, cancel or fail\n"
+          "  pasteboard         show what the pasteboard holds\n"
           "  wait SECONDS       let the app run (animations, delayed work)\n"
           "  show               print the screen again\n"
           "  quit               leave\n";
@@ -308,6 +313,60 @@ static UITextField *focusedTextField(UIView *view) {
   return SimTapBarButtonItem(button) ? nil : @"The bar button did not respond.";
 }
 
+- (NSString *)deleteRow:(SettingsScreenItem *)item {
+  UIViewController *page = [item controller];
+  if (![page isKindOfClass:[PSEditableListController class]]) return @"Rows of this page cannot be deleted.";
+  if ([item footerLink]) return @"That is a footer link, not a row.";
+  return SimEditableListSwipeToDelete((PSListController *)page, [item specifier]) ? nil : @"That row cannot be deleted.";
+}
+
+- (NSString *)touch:(SettingsScreenItem *)item at:(NSString *)where {
+  UIViewController *page = [item controller];
+  if ([item footerLink] || ![page isKindOfClass:[PSListController class]]) return @"That is not a row.";
+  NSScanner *scanner = [NSScanner scannerWithString:where];
+  double x = 0;
+  if (![scanner scanDouble:&x] || ![scanner isAtEnd] || x < 0) return @"Say where: touch N X (points from the left).";
+  PSListController *list = (PSListController *)page;
+  NSIndexPath *path = [list indexPathForSpecifier:[item specifier]];
+  UITableViewCell *cell = path != nil ? [[list table] cellForRowAtIndexPath:path] : nil;
+  if (cell == nil) cell = [list cachedCellForSpecifier:[item specifier]];
+  [cell layoutIfNeeded];
+  UIView *content = [cell contentView];
+  if (content == nil) return @"That row has no cell on screen.";
+  CGPoint point = [content convertPoint:CGPointMake(0, content.bounds.size.height / 2) toView:nil];
+  point.x = x;
+  return SimTapView(content, [content convertPoint:point fromView:nil]) ? nil : @"Nothing there takes the touch.";
+}
+
+- (NSString *)share {
+  SettingsScreen *screen = [self screen];
+  if ([screen alert] != nil) return @"Answer the alert first (alert N).";
+  if ([screen modal] != nil) return @"A modal page is open: answer it first.";
+  UIBarButtonItem *button = [[[screen page] navigationItem] rightBarButtonItem];
+  if (button == nil || [button action] == NULL) return @"This page has no share button.";
+  return SimTapBarButtonItem(button) ? nil : @"The share button did not respond.";
+}
+
+- (NSString *)answerMail:(NSString *)answer {
+  UINavigationController *modal = [[self screen] modal];
+  if (![modal isKindOfClass:[MFMailComposeViewController class]]) return @"No mail is being written.";
+  NSDictionary *results = @{
+    @"cancel" : @(MFMailComposeResultCancelled),
+    @"save" : @(MFMailComposeResultSaved),
+    @"send" : @(MFMailComposeResultSent),
+    @"fail" : @(MFMailComposeResultFailed)
+  };
+  NSNumber *result = [results objectForKey:[answer lowercaseString]];
+  if (result == nil) return @"Say how: mail send | save | cancel | fail";
+  SimMailComposerFinish((MFMailComposeViewController *)modal, (MFMailComposeResult)[result integerValue]);
+  return nil;
+}
+
+- (NSString *)pasteboardText {
+  NSString *text = [[UIPasteboard generalPasteboard] string];
+  return text != nil ? [NSString stringWithFormat:@"Pasteboard: %@\n", text] : @"The pasteboard is empty.\n";
+}
+
 - (BOOL)openEntryNamed:(NSString *)label {
   [self render];
   for (SettingsScreenItem *item in [[self screen] items]) {
@@ -335,6 +394,7 @@ static UITextField *focusedTextField(UIView *view) {
     return @"";
   }
   if ([verb isEqualToString:@"help"] || [verb isEqualToString:@"?"]) return [SettingsConsole helpText];
+  if ([verb isEqualToString:@"pasteboard"] && count == 1) return [self pasteboardText];
   if ([verb isEqualToString:@"show"]) {
     [self settle];
     return [self render];
@@ -387,6 +447,19 @@ static UITextField *focusedTextField(UIView *view) {
     problem = [self back];
   } else if ([verb isEqualToString:@"cancel"] && count == 1) {
     problem = [self cancel];
+  } else if ([verb isEqualToString:@"delete"] && count == 2) {
+    SettingsScreenItem *item = [self itemNumbered:[words objectAtIndex:1] error:&problem];
+    if (item != nil) problem = [[self screen] alert] != nil ? @"Answer the alert first (alert N)." : [self deleteRow:item];
+  } else if ([verb isEqualToString:@"touch"] && count == 3) {
+    SettingsScreenItem *item = [self itemNumbered:[words objectAtIndex:1] error:&problem];
+    if (item != nil) {
+      problem = [[self screen] alert] != nil ? @"Answer the alert first (alert N)."
+                                              : [self touch:item at:[words objectAtIndex:2]];
+    }
+  } else if ([verb isEqualToString:@"share"] && count == 1) {
+    problem = [self share];
+  } else if ([verb isEqualToString:@"mail"] && count == 2) {
+    problem = [self answerMail:[words objectAtIndex:1]];
   } else {
     return [NSString stringWithFormat:@"Unknown command: %@\n%@", trimmed, [SettingsConsole helpText]];
   }

@@ -93,6 +93,18 @@ static NSString *rule(NSString *character) {
   return [@"" stringByPaddingToLength:kScreenWidth withString:character startingAtIndex:0];
 }
 
+// A bar button's title, or for an image button the image's name ("share" for share@3x.png).
+static NSString *barButtonName(UIBarButtonItem *item) {
+  if (item == nil) return nil;
+  if ([item title] != nil) return [item title];
+  UIImage *image = [item image];
+  if (image == nil) return nil;
+  NSString *name = [[[image _simDescription] lastPathComponent] stringByDeletingPathExtension];
+  NSRange scale = [name rangeOfString:@"@"];
+  if (scale.location != NSNotFound) name = [name substringToIndex:scale.location];
+  return [name length] > 0 ? name : @"image";
+}
+
 static NSString *stringOrNil(id value) {
   if ([value isKindOfClass:[NSString class]]) return [value length] > 0 ? value : nil;
   return nil;
@@ -227,6 +239,8 @@ static NSString *valueText(id value, PSSpecifier *specifier) {
 - (void)renderList:(UIViewController *)page into:(NSMutableArray *)lines items:(NSMutableArray *)items;
 - (void)renderView:(UIViewController *)page into:(NSMutableArray *)lines;
 - (void)renderAlert:(UIAlertController *)alert into:(NSMutableArray *)lines;
+- (void)renderMail:(MFMailComposeViewController *)composer into:(NSMutableArray *)lines;
+- (void)renderText:(NSString *)text into:(NSMutableArray *)lines;
 @end
 
 @implementation SettingsScreen
@@ -297,8 +311,8 @@ static NSString *valueText(id value, PSSpecifier *specifier) {
     UINavigationItem *navigationItem = [page navigationItem];
     UIBarButtonItem *left = [navigationItem leftBarButtonItem];
     UIBarButtonItem *right = [navigationItem rightBarButtonItem];
-    if ([left title] != nil) [buttons addObject:[NSString stringWithFormat:@"[%@]", [left title]]];
-    if ([right title] != nil) [buttons addObject:[NSString stringWithFormat:@"[%@]", [right title]]];
+    if (barButtonName(left) != nil) [buttons addObject:[NSString stringWithFormat:@"[%@]", barButtonName(left)]];
+    if (barButtonName(right) != nil) [buttons addObject:[NSString stringWithFormat:@"[%@]", barButtonName(right)]];
   } @catch (NSException *exception) {
   }
   [lines addObject:rule(@"=")];
@@ -313,7 +327,9 @@ static NSString *valueText(id value, PSSpecifier *specifier) {
   [lines addObject:centred(title)];
   [lines addObject:rule(@"=")];
 
-  if ([page isKindOfClass:[PSListController class]]) {
+  if ([modal isKindOfClass:[MFMailComposeViewController class]]) {
+    [screen renderMail:(MFMailComposeViewController *)modal into:lines];
+  } else if ([page isKindOfClass:[PSListController class]]) {
     [screen renderList:page into:lines items:items];
   } else {
     [screen renderView:page into:lines];
@@ -447,6 +463,13 @@ static NSString *valueText(id value, PSSpecifier *specifier) {
     if (right == nil) right = @"";
     [lines addObject:columns([left stringByAppendingString:disabled], right)];
     NSString *subtitle = stringOrNil([specifier propertyForKey:@"cellSubtitleText"]);
+    if (subtitle == nil && type == kSwitchCell && [specifier propertyForKey:@"cellClass"] != nil &&
+        [page isKindOfClass:[PSListController class]]) {
+      // A custom switch cell may write its own line under the name (a network's password).
+      UITableViewCell *cell = [(PSListController *)page cachedCellForSpecifier:specifier];
+      subtitle = stringOrNil([[cell detailTextLabel] text]);
+      if ([subtitle length] == 0) subtitle = nil;
+    }
     if (subtitle != nil) [lines addObjectsFromArray:SettingsScreenWrap(subtitle, kScreenWidth, @"        ")];
   }
   [self addFooter:group page:page into:lines items:items];
@@ -492,6 +515,8 @@ static void collectViews(UIView *view, CGFloat top, NSMutableArray *found) {
       NSString *text = stringOrNil([(UILabel *)subview text]);
       if (text == nil) continue;
       for (NSString *line in SettingsScreenWrap(text, kScreenWidth - 4, @"")) [lines addObject:centred(line)];
+    } else if ([subview isKindOfClass:[UITextView class]]) {
+      [self renderText:[(UITextView *)subview text] into:lines];
     } else if ([subview isKindOfClass:[UITextField class]]) {
       NSString *text = [(UITextField *)subview text];
       [lines addObject:centred([NSString stringWithFormat:@"[%@]", text != nil ? text : @""])];
@@ -500,6 +525,33 @@ static void collectViews(UIView *view, CGFloat top, NSMutableArray *found) {
       if (text != nil) [lines addObject:centred([NSString stringWithFormat:@"( %@ )", text])];
     }
   }
+}
+
+// Long texts show their first lines and say how many follow.
+static const NSUInteger kTextLines = 30;
+
+- (void)renderText:(NSString *)text into:(NSMutableArray *)lines {
+  if ([text length] == 0) {
+    [lines addObject:@"  (empty)"];
+    return;
+  }
+  NSArray *wrapped = SettingsScreenWrap(text, kScreenWidth, @"  ");
+  NSUInteger shown = MIN([wrapped count], kTextLines);
+  [lines addObjectsFromArray:[wrapped subarrayWithRange:NSMakeRange(0, shown)]];
+  if (shown < [wrapped count]) {
+    [lines addObject:[NSString stringWithFormat:@"  (... %lu more lines)", (unsigned long)([wrapped count] - shown)]];
+  }
+}
+
+- (void)renderMail:(MFMailComposeViewController *)composer into:(NSMutableArray *)lines {
+  NSArray *to = [composer _simToRecipients];
+  [lines addObject:@""];
+  [lines addObject:[@"  To: " stringByAppendingString:to != nil ? [to componentsJoinedByString:@", "] : @""]];
+  [lines addObject:[@"  Subject: " stringByAppendingString:[composer _simSubject] != nil ? [composer _simSubject] : @""]];
+  [lines addObject:@"  " ];
+  [self renderText:[composer _simMessageBody] into:lines];
+  [lines addObject:@""];
+  [lines addObject:@"  (mail send | mail save | mail cancel | mail fail)"];
 }
 
 - (void)renderAlert:(UIAlertController *)alert into:(NSMutableArray *)lines {

@@ -74,6 +74,8 @@ extern NSString *const PSTargetKey;
 }
 + (instancetype)preferenceSpecifierNamed:(NSString *)name target:(id)target set:(SEL)set get:(SEL)get detail:(Class)detail cell:(PSCellType)cell edit:(Class)edit;
 + (instancetype)groupSpecifierWithName:(NSString *)name;
+/* From iOS 13 on: on an older device's profile the class does not answer it
+   (respondsToSelector: says NO). */
 + (instancetype)groupSpecifierWithHeader:(NSString *)header footer:(NSString *)footer;
 + (instancetype)emptyGroupSpecifier;
 + (instancetype)groupSpecifierWithID:(NSString *)identifier;

@@ -39,6 +39,10 @@ UIKIT_EXTERN void SimSettingsReset(void);
 
 /* Taps a row of a list page as the user would: switches flip, buttons act, links push. */
 UIKIT_EXTERN BOOL SimListControllerTapSpecifier(PSListController *controller, PSSpecifier *specifier);
+/* Swipes a row of an editable list to the left and presses its delete button, as the user
+   would: only rows whose editing style is delete can be; the commit goes through the
+   table's data source (PSEditableListController: performDeletionActionForSpecifier:). */
+UIKIT_EXTERN BOOL SimEditableListSwipeToDelete(PSListController *controller, PSSpecifier *specifier);
 /* Types into a passcode field, one character at a time. */
 UIKIT_EXTERN void SimPasscodeFieldType(PSPasscodeField *field, NSString *digits);
 /* Taps the link of a hyperlink footer. */
