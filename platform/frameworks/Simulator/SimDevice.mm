@@ -8,6 +8,7 @@
 
 #include <errno.h>
 #include <ftw.h>
+#include <unistd.h>
 #include <limits.h>
 #include <objc/runtime.h>
 #include <pthread.h>
@@ -128,6 +129,13 @@ static BOOL writeEntry(NSString *root, id entry)
     NSString *hostPath = [root stringByAppendingString:devicePath];
     if ([devicePath hasSuffix:@"/"]) return SimMakeDirectories(hostPath);
     if (!SimMakeDirectories([hostPath stringByDeletingLastPathComponent])) return NO;
+#ifdef TESSARIN_TOGGLE_LIBRARY_PATH
+    // The toggle library is a real library of this build: the device holds it (linked in)
+    // where the profile installs it, so loading it by its device path gives its classes.
+    if (contents == nil && [[devicePath lastPathComponent] isEqualToString:@"libflipswitch.dylib"] &&
+        access(TESSARIN_TOGGLE_LIBRARY_PATH, R_OK) == 0)
+        return symlink(TESSARIN_TOGGLE_LIBRARY_PATH, [hostPath fileSystemRepresentation]) == 0;
+#endif
     NSData *data = nil;
     if ([contents isKindOfClass:[NSString class]]) {
         data = [contents dataUsingEncoding:NSUTF8StringEncoding];
