@@ -186,3 +186,34 @@ TEST_F(HostConsoleTest, TheSetPasscodeScriptTakesTheFirstRunStateToAUsableRootPa
   EXPECT_FALSE(Contains(screen_, "(disabled)")) << transcript;
   EXPECT_NSEQ([StoredPreferences() objectForKey:@"passcode"], @"1234");
 }
+
+// The seven smaller pages open from the product's page; a text row takes typing, "Save"
+// is pressed by its title, choices and slider values are shown.
+TEST_F(HostConsoleTest, OpensTheSmallerPagesTypesAndPressesBarButtons) {
+  OpenSettings();
+  struct Case {
+    const char *row;
+    const char *shows;
+  };
+  const Case cases[] = {
+      {"Settings panes", "Choose the settings panes"},
+      {"Toggles", "Airplane Mode"},
+      {"Caller ID", "Show calls on Lock Screen"},
+      {"Power down", "Protect restart"},
+      {"Vibrate on error", "Off | Light | [Medium] | Strong"},
+      {"Delay", "3 (1 to 10)"},
+      {"Alert title", "\"Tessarin\""},
+  };
+  for (const Case &c : cases) {
+    SCOPED_TRACE(c.row);
+    std::string page = Tap(c.row);
+    EXPECT_TRUE(Contains(page, c.shows)) << page;
+    if (std::string(c.row) != "Alert title") Run("back");
+  }
+  EXPECT_TRUE(Contains(Run("press Done"), "This page has no bar button \"Done\".")) ;
+  EXPECT_TRUE(Contains(Run("text 1 \"Locked\""), "\"Locked\""));
+  std::string after = Run("press Save");
+  EXPECT_TRUE(Contains(after, "Passcode options")) << after;  // back on the product's page
+  EXPECT_NSEQ([StoredPreferences() objectForKey:@"alertTitle"], @"Locked");
+  EXPECT_EQ(Run("text 1 \"x\""), "That row is not a text row.\n");
+}

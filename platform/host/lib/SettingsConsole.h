@@ -9,6 +9,8 @@
 //   type DIGITS           enter a passcode on a passcode page
 //   back                  go back one page
 //   cancel                the bar button of a modal page
+//   text N "WORDS"        type into a text row and end editing
+//   press TITLE           the page's bar button with that title
 //   wait SECONDS          let the app run (animations, delayed work)
 //   show                  print the screen again
 //   quit                  leave

@@ -5,6 +5,9 @@
 
 // Switch rows, by cell type number.
 static const long kSwitchCellType = 6;
+// Text rows.
+static const long kEditTextCellType = 8;
+static const long kSecureEditTextCellType = 12;
 
 // Splits a command line into words; double quotes group words ("alert \"Set Passcode\"").
 static NSArray *commandWords(NSString *line) {
@@ -56,6 +59,8 @@ static void performOn(id target, SEL action, id argument) {
           "  type 1234          enter a passcode on a passcode page\n"
           "  back               go back one page\n"
           "  cancel             press the bar button of a modal page\n"
+          "  text N \"words\"     type into a text row (replacing its text) and end editing\n"
+          "  press TITLE        press the page's bar button with that title (press Save)\n"
           "  wait SECONDS       let the app run (animations, delayed work)\n"
           "  show               print the screen again\n"
           "  quit               leave\n";
@@ -279,6 +284,32 @@ static void performOn(id target, SEL action, id argument) {
   return SimTapBarButtonItem(button) ? nil : @"The bar button did not respond.";
 }
 
+- (NSString *)enterText:(NSString *)text into:(SettingsScreenItem *)item {
+  PSSpecifier *specifier = [item specifier];
+  UIViewController *page = [item controller];
+  long type = (long)[specifier cellType];
+  if ([item footerLink] || (type != kEditTextCellType && type != kSecureEditTextCellType))
+    return @"That row is not a text row.";
+  if (!SettingsScreenRowEnabled(specifier)) return @"That row is disabled.";
+  if (![page isKindOfClass:[PSListController class]]) return @"That row's page cannot be typed into.";
+  id cell = [(PSListController *)page cachedCellForSpecifier:specifier];
+  if (![cell isKindOfClass:[PSEditableTableCell class]]) return @"That row has no text field.";
+  return SimEditableCellType((PSEditableTableCell *)cell, text) ? nil : @"The text field did not take the text.";
+}
+
+- (NSString *)press:(NSString *)title {
+  UINavigationItem *navigationItem = [[[self screen] page] navigationItem];
+  NSMutableArray *buttons = [NSMutableArray array];
+  if ([navigationItem leftBarButtonItem] != nil) [buttons addObject:[navigationItem leftBarButtonItem]];
+  if ([navigationItem rightBarButtonItem] != nil) [buttons addObject:[navigationItem rightBarButtonItem]];
+  for (UIBarButtonItem *button in buttons) {
+    if ([[button title] caseInsensitiveCompare:title] != NSOrderedSame) continue;
+    if ([button action] == NULL) return @"That bar button has no action.";
+    return SimTapBarButtonItem(button) ? nil : @"The bar button did not respond.";
+  }
+  return [NSString stringWithFormat:@"This page has no bar button \"%@\".", title];
+}
+
 - (BOOL)openEntryNamed:(NSString *)label {
   [self render];
   for (SettingsScreenItem *item in [[self screen] items]) {
@@ -352,6 +383,14 @@ static void performOn(id target, SEL action, id argument) {
     problem = [self back];
   } else if ([verb isEqualToString:@"cancel"] && count == 1) {
     problem = [self cancel];
+  } else if ([verb isEqualToString:@"text"] && count == 3) {
+    SettingsScreenItem *item = [self itemNumbered:[words objectAtIndex:1] error:&problem];
+    if (item != nil) {
+      problem = [[self screen] alert] != nil ? @"Answer the alert first (alert N)."
+                                             : [self enterText:[words objectAtIndex:2] into:item];
+    }
+  } else if ([verb isEqualToString:@"press"] && count == 2) {
+    problem = [[self screen] alert] != nil ? @"Answer the alert first (alert N)." : [self press:[words objectAtIndex:1]];
   } else {
     return [NSString stringWithFormat:@"Unknown command: %@\n%@", trimmed, [SettingsConsole helpText]];
   }
