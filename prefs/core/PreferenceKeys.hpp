@@ -92,6 +92,20 @@ inline constexpr PreferenceKey kUnlockWithTouchID{"unlockWithTouchID", KeyType::
 inline constexpr PreferenceKey kUseOnlyPasscode{"useOnlyPasscode", KeyType::Boolean, Absent::Value, false, 0,
                                                 Writer::PlistRow, "passcode settings page",
                                                 "USE_ONLY_TESSARIN_PASSCODE"};
+inline constexpr PreferenceKey kErrorHaptic{
+    "errorHaptic", KeyType::Integer, Absent::Value, false, 2, Writer::PlistRow, "haptic page", "HAPTIC_ON_ERROR"};
+inline constexpr PreferenceKey kWaitDelay{
+    "waitDelay", KeyType::Boolean, Absent::Value, false, 0, Writer::PlistRow, "delay page", "WAIT_DELAY"};
+inline constexpr PreferenceKey kDelayTime{
+    "delayTime", KeyType::Integer, Absent::Value, false, 3, Writer::PlistRow, "delay page", "DELAY_TIME"};
+inline constexpr PreferenceKey kProtectCallerID{"protectCallerID", KeyType::Boolean, Absent::Value, false, 0,
+                                                Writer::PlistRow, "caller ID page", "CALLERID_PROTECT"};
+inline constexpr PreferenceKey kHideCallerOnFingerUp{"hideCallerOnFingerUp", KeyType::Boolean, Absent::Value, false,
+                                                     0, Writer::PlistRow, "caller ID page", "CALLERID_HIDE_CALLER"};
+inline constexpr PreferenceKey kProtectPowerDown{"protectPowerDown", KeyType::Boolean, Absent::Value, false, 0,
+                                                 Writer::PlistRow, "power-down page", "PROTECT_POWER_DOWN"};
+inline constexpr PreferenceKey kProtectRestart{
+    "protectRestart", KeyType::Boolean, Absent::Value, false, 0, Writer::PlistRow, "power-down page", "PROTECT_RESTART"};
 }  // namespace key
 
 inline constexpr PreferenceKey kPreferenceKeys[] = {
@@ -111,6 +125,13 @@ inline constexpr PreferenceKey kPreferenceKeys[] = {
     key::kKeepSession,
     key::kUnlockWithTouchID,
     key::kUseOnlyPasscode,
+    key::kErrorHaptic,
+    key::kWaitDelay,
+    key::kDelayTime,
+    key::kProtectCallerID,
+    key::kHideCallerOnFingerUp,
+    key::kProtectPowerDown,
+    key::kProtectRestart,
 };
 
 namespace detail {

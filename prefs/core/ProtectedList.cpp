@@ -16,6 +16,18 @@ std::vector<std::string> toggled(const plist::Value *stored, std::string_view it
     return list;
 }
 
+ProtectedListEdit protectedListEdit(const plist::Value *stored, std::string_view item, bool on) {
+    ProtectedListEdit edit;
+    edit.store = !on || !protectedListContains(stored, item);
+    edit.list = toggled(stored, item, on);
+    return edit;
+}
+
+bool protectedListContains(const plist::Value *stored, std::string_view item) {
+    const std::vector<std::string> list = readStringArray(stored);
+    return std::find(list.begin(), list.end(), item) != list.end();
+}
+
 plist::Value appendTrusted(const plist::Value *stored, std::string_view bssid, std::string_view ssid) {
     plist::Value list = plist::Value::array(readDictionaryArray(stored));
     plist::Value entry = plist::Value::dictionary();

@@ -35,6 +35,29 @@ std::optional<std::string> text(id object) {
   return self;
 }
 
+// The lock-screen call setting is SpringBoard's own, kept in its preferences on the
+// device, so it outlives a restart of SpringBoard; the profile gives its first value.
+- (BOOL)showsCallsInLockScreen {
+  CFStringRef domain = CFSTR("com.apple.springboard");
+  CFPreferencesAppSynchronize(domain);
+  CFPropertyListRef stored = CFPreferencesCopyAppValue(CFSTR("showsInLockScreen"), domain);
+  BOOL shows = _showsInLockScreen;
+  if (stored != NULL) {
+    id value = (id)stored;
+    if ([value respondsToSelector:@selector(boolValue)]) shows = [value boolValue];
+    CFRelease(stored);
+  }
+  return shows;
+}
+
+- (void)setShowsCallsInLockScreen:(BOOL)shows {
+  _showsInLockScreen = shows;
+  CFStringRef domain = CFSTR("com.apple.springboard");
+  CFPreferencesAppSynchronize(domain);
+  CFPreferencesSetAppValue(CFSTR("showsInLockScreen"), shows ? kCFBooleanTrue : kCFBooleanFalse, domain);
+  CFPreferencesAppSynchronize(domain);
+}
+
 - (void)dealloc {
   [_profile release];
   [super dealloc];
@@ -112,11 +135,12 @@ std::optional<std::string> text(id object) {
     return [NSDictionary dictionaryWithObject:[self knownNetworks] forKey:@"networks"];
   }
   if ([identifier isEqualToString:@(kGetCallerIDVisibility)]) {
-    return [NSDictionary dictionaryWithObject:[NSNumber numberWithBool:_showsInLockScreen] forKey:@"showsInLockScreen"];
+    return [NSDictionary dictionaryWithObject:[NSNumber numberWithBool:[self showsCallsInLockScreen]]
+                                       forKey:@"showsInLockScreen"];
   }
   if ([identifier isEqualToString:@(kSetCallerIDVisibility)]) {
     id shows = [userInfo objectForKey:@"showsInLockScreen"];
-    if ([shows respondsToSelector:@selector(boolValue)]) _showsInLockScreen = [shows boolValue];
+    if ([shows respondsToSelector:@selector(boolValue)]) [self setShowsCallsInLockScreen:[shows boolValue]];
     return nil;
   }
   if ([identifier isEqualToString:@(kPasscodeResetRequest)]) {

@@ -70,7 +70,8 @@ TEST(PreferenceKeys, EveryNamedEntryIsInTheTable) {
         &key::kProtectedFolders, &key::kProtectedCCItems,  &key::kProtectedCCSettingsItems,
         &key::kProtectedSettings, &key::kProtectedSwitches, &key::kAllowedWiFis,    &key::kIconColor,
         &key::kAlertTitle,       &key::kWaitUntilFinished, &key::kKeepSession,      &key::kUnlockWithTouchID,
-        &key::kUseOnlyPasscode,
+        &key::kUseOnlyPasscode,  &key::kErrorHaptic,       &key::kWaitDelay,        &key::kDelayTime,
+        &key::kProtectCallerID,  &key::kHideCallerOnFingerUp, &key::kProtectPowerDown, &key::kProtectRestart,
     };
     EXPECT_EQ(std::size(named), std::size(kPreferenceKeys));
     for (const PreferenceKey *k : named) {
@@ -115,6 +116,13 @@ TEST(PreferenceKeys, TypesAbsentValuesAndWriters) {
         {"keepSession", KeyType::Boolean, Absent::Value, Writer::PlistRow, true, "KEEP_SESSION"},
         {"unlockWithTouchID", KeyType::Boolean, Absent::Value, Writer::PlistRow, true, "UNLOCK_WITH_TOUCHID"},
         {"useOnlyPasscode", KeyType::Boolean, Absent::Value, Writer::PlistRow, true, "USE_ONLY_TESSARIN_PASSCODE"},
+        {"errorHaptic", KeyType::Integer, Absent::Value, Writer::PlistRow, true, "HAPTIC_ON_ERROR"},
+        {"waitDelay", KeyType::Boolean, Absent::Value, Writer::PlistRow, true, "WAIT_DELAY"},
+        {"delayTime", KeyType::Integer, Absent::Value, Writer::PlistRow, true, "DELAY_TIME"},
+        {"protectCallerID", KeyType::Boolean, Absent::Value, Writer::PlistRow, true, "CALLERID_PROTECT"},
+        {"hideCallerOnFingerUp", KeyType::Boolean, Absent::Value, Writer::PlistRow, true, "CALLERID_HIDE_CALLER"},
+        {"protectPowerDown", KeyType::Boolean, Absent::Value, Writer::PlistRow, true, "PROTECT_POWER_DOWN"},
+        {"protectRestart", KeyType::Boolean, Absent::Value, Writer::PlistRow, true, "PROTECT_RESTART"},
     };
     EXPECT_EQ(std::size(cases), std::size(kPreferenceKeys));
     for (const Case &c : cases) {

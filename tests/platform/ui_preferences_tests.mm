@@ -181,3 +181,43 @@ TEST_F(UIPreferencesTest, FooterLinkReachesItsTarget)
     EXPECT_EQ([(PSFooterHyperlinkView *)footer linkRange].length, 23u);
     EXPECT_TRUE(SimFooterHyperlinkTap((PSFooterHyperlinkView *)footer));
 }
+
+// An edit-text row: typing ends with the row's setter; a title-less row's text label holds
+// the text once editing ended, as the device's cell does, while a titled row keeps its title.
+TEST_F(UIPreferencesTest, TypingIntoAnEditRowStoresAndFillsTheLabelOfATitlelessRow)
+{
+    PSListController *page = [[[PSListController alloc] init] autorelease];
+    struct Case {
+        NSString *name;
+        NSString *stored;
+        NSString *typed;
+        NSString *labelBefore;
+        NSString *labelAfter;
+    };
+    const Case cases[] = {
+        {nil, @"Old", @"New title", @"Old", @"New title"},
+        {nil, nil, @"", @"", @""},
+        {@"Title", @"Old", @"Typed", @"Title", @"Title"},
+    };
+    for (const Case &c : cases) {
+        SCOPED_TRACE(c.name ? [c.name UTF8String] : "no title");
+        CFPreferencesSetAppValue(CFSTR("title"), (CFPropertyListRef)c.stored, (CFStringRef)kDomain);
+        CFPreferencesAppSynchronize((CFStringRef)kDomain);
+        PSSpecifier *row = [PSSpecifier preferenceSpecifierNamed:c.name target:page set:@selector(setPreferenceValue:specifier:)
+                                                             get:@selector(readPreferenceValue:) detail:Nil
+                                                            cell:PSEditTextCell edit:Nil];
+        [row setProperty:kDomain forKey:@"defaults"];
+        [row setProperty:@"title" forKey:@"key"];
+        [row setProperty:@"TITLE" forKey:@"id"];
+        page.specifiers = [NSArray arrayWithObjects:[PSSpecifier emptyGroupSpecifier], row, nil];
+        PSEditableTableCell *cell = (PSEditableTableCell *)[page cachedCellForSpecifier:row];
+        ASSERT_TRUE([cell isKindOfClass:[PSEditableTableCell class]]);
+        EXPECT_TRUE([[[cell textLabel] text] ?: @"" isEqualToString:c.labelBefore]);
+        ASSERT_TRUE(SimEditableCellType(cell, c.typed));
+        EXPECT_TRUE([[[cell textLabel] text] ?: @"" isEqualToString:c.labelAfter]);
+        EXPECT_TRUE([[[cell textField] text] isEqualToString:c.typed]);
+        CFPreferencesAppSynchronize((CFStringRef)kDomain);
+        id stored = [(id)CFPreferencesCopyAppValue(CFSTR("title"), (CFStringRef)kDomain) autorelease];
+        EXPECT_TRUE([stored isEqual:c.typed]) << [[stored description] UTF8String];
+    }
+}

@@ -33,6 +33,9 @@ protected:
     // Shows `page` as the Settings list opens a pane: the first page of the pane's own
     // navigation controller (the application's rootController), on screen.
     void ShowAsSettingsPane(UIViewController *page);
+    // Taps the product's row of the Settings list (the one that opens the bundle's
+    // principal class) and returns the page shown once the push is over.
+    UIViewController *OpenProductFromSettingsList();
 
     // File helpers on device paths.
     bool DeviceFileExists(const char *devicePath) const;

@@ -2,6 +2,7 @@
 #include <unistd.h>
 #import "SettingsHost.h"
 #import <Preferences/PreferencesSimulation.h>
+#import <UIKit/UIKitSimulation.h>
 
 void BundleTest::TearDown() {
     StopSpringBoard();
@@ -62,4 +63,16 @@ NSDictionary *BundleTest::StoredPreferences() const {
 
 void BundleTest::ShowAsSettingsPane(UIViewController *page) {
     [[SimSettingsRootController() rootListController] pushController:page animate:NO];
+}
+
+UIViewController *BundleTest::OpenProductFromSettingsList() {
+    PSListController *list = [SimSettingsRootController() rootListController];
+    [list view];
+    PSSpecifier *productRow = nil;
+    for (PSSpecifier *row in [list specifiers])
+        if ([row detailControllerClass] == NSClassFromString(@"TessarinPrefsListController")) productRow = row;
+    EXPECT_NE(productRow, nil) << "the Settings list has no Tessarin row";
+    EXPECT_TRUE(SimListControllerTapSpecifier(list, productRow));
+    SimRunLoopRunFor(SimTransitionDuration + 0.1);
+    return [SimSettingsRootController() topViewController];
 }

@@ -127,11 +127,7 @@ protected:
     // The product's root page, opened from its row of the Settings list.
     PSListController *OpenRootPage()
     {
-        PSListController *list = [RootNavigation() rootListController];
-        [list view];
-        EXPECT_TRUE(SimListControllerTapSpecifier(list, [[list specifiers] lastObject]));
-        SimRunLoopRunFor(SimTransitionDuration + 0.1);
-        return (PSListController *)[RootNavigation() topViewController];
+        return (PSListController *)OpenProductFromSettingsList();
     }
 
     // The passcode settings page, pushed as its row pushes it: onto the product's pane when

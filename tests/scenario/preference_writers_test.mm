@@ -192,12 +192,55 @@ TEST_F(PreferenceWritersTest, PlistRowsWriteTheirTableKeyAndPostAsTheTableSays) 
         {"TessarinPrefsListController", key::kEnabled},
         {"TessarinPrefsListController", key::kKeepSession},
         {"TessarinPasscodeSettingsController", key::kUseOnlyPasscode},  // shown with a passcode on Face ID
+        {"TessarinHapticController", key::kErrorHaptic},
+        {"TessarinDelayController", key::kWaitDelay},
+        {"TessarinDelayController", key::kDelayTime},
+        {"TessarinDelayController", key::kWaitUntilFinished},
+        {"TessarinInCallProtectionListController", key::kProtectCallerID},
+        {"TessarinInCallProtectionListController", key::kHideCallerOnFingerUp},
+        {"TessarinPowerDownListController", key::kProtectPowerDown},
+        {"TessarinPowerDownListController", key::kProtectRestart},
     };
     for (const Case &c : cases) {
         SCOPED_TRACE(std::string(c.entry.key));
         Start(@"1357");
         DomainWrite write(StoredPreferences());
-        Switch(c.page, c.entry, @(YES));
-        EXPECT_TRUE(write.Wrote(StoredPreferences(), c.entry, @(YES)));
+        id value = writtenValue(c.entry);
+        Switch(c.page, c.entry, value);
+        EXPECT_TRUE(write.Wrote(StoredPreferences(), c.entry, value));
     }
+}
+
+// The list pages' switches, as the user flips them, and the alert title's "Save".
+TEST_F(PreferenceWritersTest, ListSwitchesAndTheTitleWriteTheirKeyAndPostOnce) {
+    struct Case {
+        const char *page;
+        const PreferenceKey &entry;
+        NSString *row;  // its id
+        id expected;
+    };
+    const Case cases[] = {
+        {"TessarinProtectedSpecsController", key::kProtectedSettings, @"WIFI", @[ @"seed.identifier", @"WIFI" ]},
+        {"TessarinFlipswitchController", key::kProtectedSwitches, @"org.toggles.vpn",
+         @[ @"seed.identifier", @"org.toggles.vpn" ]},
+    };
+    for (const Case &c : cases) {
+        SCOPED_TRACE(std::string(c.entry.key));
+        Start(@"1357");
+        PSListController *page = Push(c.page);
+        PSSpecifier *row = [page specifierForID:c.row];
+        ASSERT_NE(row, nil);
+        DomainWrite write(StoredPreferences());
+        ASSERT_TRUE(SimListControllerTapSpecifier(page, row));
+        EXPECT_TRUE(write.Wrote(StoredPreferences(), c.entry, c.expected));
+    }
+    Start(@"1357");
+    PSListController *page = Push("TessarinAlertTitleController");
+    [page viewDidAppear:NO];
+    id cell = [page cachedCellForSpecifier:[page specifierForID:@"ALERTTITLE_KEY"]];
+    DomainWrite write(StoredPreferences());  // typing, then "Save": one key, one signal
+    ASSERT_TRUE(SimEditableCellType(cell, @"Locked"));
+    ASSERT_TRUE(SimTapBarButtonItem([[page navigationItem] rightBarButtonItem]));
+    SimRunLoopRunFor(0.8);
+    EXPECT_TRUE(write.Wrote(StoredPreferences(), key::kAlertTitle, @"Locked"));
 }

@@ -108,11 +108,7 @@ protected:
     // Opens the product's entry from the Settings list, as the user does; the page it shows.
     PSListController *OpenInSettings() {
         EXPECT_TRUE(SettingsHostBuildSettingsApp(SettingsHostLoadPreferenceBundle()));
-        PSListController *list = [SimSettingsRootController() rootListController];
-        [list view];
-        EXPECT_TRUE(SimListControllerTapSpecifier(list, [[list specifiers] lastObject]));
-        SimRunLoopRunFor(SimTransitionDuration + 0.1);
-        return (PSListController *)[SimSettingsRootController() topViewController];
+        return (PSListController *)OpenProductFromSettingsList();
     }
 
     void Set(id value, const char *key) {

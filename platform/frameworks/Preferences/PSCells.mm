@@ -292,14 +292,22 @@ static NSArray *cellTypeNames(void) {
 - (UITextField *)editableTextField {
   return _textField;
 }
+// A row without a name has no title: as on the device, the cell's text label then
+// carries the row's text as the field last showed it once editing ended (or the value
+// was set), not what is being typed.
+- (void)_simMirrorTextInLabel {
+  if ([_specifier.name length] == 0) self.textLabel.text = _textField.text;
+}
 - (void)setValue:(id)value {
   [super setValue:value];
   _textField.text = [value isKindOfClass:[NSString class]] ? value : value ? [value description] : @"";
+  [self _simMirrorTextInLabel];
 }
 - (void)_simTextChanged:(id)sender {
   _valueChanged = YES;
 }
 - (void)_simCommit {
+  [self _simMirrorTextInLabel];
   if (!_valueChanged) return;
   _valueChanged = NO;
   NSString *text = [[_textField.text copy] autorelease];
@@ -319,7 +327,9 @@ static NSArray *cellTypeNames(void) {
   [super layoutSubviews];
   CGRect content = self.contentView.bounds;
   CGRect title = self.textLabel.frame;
-  CGFloat x = self.textLabel.text.length ? CGRectGetMinX(title) + [self.textLabel sizeThatFits:title.size].width + 15 : 15;
+  CGFloat x = [_specifier.name length] && self.textLabel.text.length
+                  ? CGRectGetMinX(title) + [self.textLabel sizeThatFits:title.size].width + 15
+                  : 15;
   _textField.frame = CGRectMake(x, 0, MAX(content.size.width - x - 15, 0), content.size.height);
 }
 @end
@@ -387,6 +397,20 @@ static NSArray *cellTypeNames(void) {
   SimFooterHyperlinkTap(self);
 }
 @end
+
+BOOL SimEditableCellType(PSEditableTableCell *cell, NSString *text) {
+  if (![cell isKindOfClass:[PSEditableTableCell class]] || [[UIApplication sharedApplication] isIgnoringInteractionEvents])
+    return NO;
+  if (!cell.userInteractionEnabled) return NO;
+  UITextField *field = [cell textField];
+  [field becomeFirstResponder];
+  field.text = text ? text : @"";
+  [field sendActionsForControlEvents:UIControlEventEditingChanged];
+  id<UITextFieldDelegate> delegate = field.delegate;
+  if ([delegate respondsToSelector:@selector(textFieldShouldReturn:)]) [delegate textFieldShouldReturn:field];
+  else [field resignFirstResponder];
+  return YES;
+}
 
 BOOL SimFooterHyperlinkTap(PSFooterHyperlinkView *view) {
   if (!view || [[UIApplication sharedApplication] isIgnoringInteractionEvents]) return NO;

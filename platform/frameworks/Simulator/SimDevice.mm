@@ -8,6 +8,7 @@
 
 #include <errno.h>
 #include <ftw.h>
+#include <unistd.h>
 #include <limits.h>
 #include <objc/runtime.h>
 #include <pthread.h>
@@ -133,6 +134,13 @@ static BOOL writeEntry(NSString *root, id entry)
     // A symbolic link holds its target as written: a device path, as the device would have it.
     if ([linkTarget isKindOfClass:[NSString class]])
         return symlink([linkTarget fileSystemRepresentation], [hostPath fileSystemRepresentation]) == 0;
+#ifdef TESSARIN_TOGGLE_LIBRARY_PATH
+    // The toggle library is a real library of this build: the device holds it (linked in)
+    // where the profile installs it, so loading it by its device path gives its classes.
+    if (contents == nil && [[devicePath lastPathComponent] isEqualToString:@"libflipswitch.dylib"] &&
+        access(TESSARIN_TOGGLE_LIBRARY_PATH, R_OK) == 0)
+        return symlink(TESSARIN_TOGGLE_LIBRARY_PATH, [hostPath fileSystemRepresentation]) == 0;
+#endif
     NSData *data = nil;
     if ([contents isKindOfClass:[NSString class]]) {
         data = [contents dataUsingEncoding:NSUTF8StringEncoding];

@@ -15,6 +15,8 @@
 //   share                 the share button of the page (its right bar button)
 //   mail send|save|cancel|fail   answer the mail composer on screen
 //   pasteboard            print what the general pasteboard holds
+//   text N "WORDS"        type into a text row and end editing
+//   press TITLE           the page's bar button with that title
 //   wait SECONDS          let the app run (animations, delayed work)
 //   show                  print the screen again
 //   quit                  leave

@@ -6,6 +6,9 @@
 
 // Switch rows, by cell type number.
 static const long kSwitchCellType = 6;
+// Text rows.
+static const long kEditTextCellType = 8;
+static const long kSecureEditTextCellType = 12;
 
 // Splits a command line into words; double quotes group words ("alert \"Set Passcode\"").
 static NSArray *commandWords(NSString *line) {
@@ -51,6 +54,7 @@ static void performOn(id target, SEL action, id argument) {
 + (NSString *)helpText {
   return @"Commands:\n"
           "  tap N              open a link row, press a button row, follow a footer link\n"
+          "                     (N: a row's number, or its title: tap Tessarin)\n"
           "  tap N left|middle|right  tap one third of a row of three choices (unlock buttons, glyphs)\n"
           "  flip N             turn a switch row over\n"
           "  switch N on|off    set a switch row\n"
@@ -63,6 +67,8 @@ static void performOn(id target, SEL action, id argument) {
           "  share              press the page's share button\n"
           "  mail send          answer the mail composer: send, save, cancel or fail\n"
           "  pasteboard         show what the pasteboard holds\n"
+          "  text N \"words\"     type into a text row (replacing its text) and end editing\n"
+          "  press TITLE        press the page's bar button with that title (press Save)\n"
           "  wait SECONDS       let the app run (animations, delayed work)\n"
           "  show               print the screen again\n"
           "  quit               leave\n";
@@ -112,6 +118,13 @@ static void performOn(id target, SEL action, id argument) {
 - (SettingsScreenItem *)itemNumbered:(NSString *)text error:(NSString **)error {
   NSUInteger number = positiveNumber(text);
   NSArray *items = [[self screen] items];
+  // A row may also be named by its title, as it reads on the screen.
+  if ([text length] > 0 && ![[NSCharacterSet decimalDigitCharacterSet] characterIsMember:[text characterAtIndex:0]]) {
+    for (SettingsScreenItem *item in items)
+      if (![item footerLink] && [[[item specifier] name] caseInsensitiveCompare:text] == NSOrderedSame) return item;
+    *error = [NSString stringWithFormat:@"No row here is called \"%@\".", text];
+    return nil;
+  }
   if (number == 0 || number > [items count]) {
     *error = [items count] == 0 ? @"There is nothing numbered on this screen."
                                 : [NSString stringWithFormat:@"Choose a number from 1 to %lu.", (unsigned long)[items count]];
@@ -367,6 +380,32 @@ static UITextField *focusedTextField(UIView *view) {
   return text != nil ? [NSString stringWithFormat:@"Pasteboard: %@\n", text] : @"The pasteboard is empty.\n";
 }
 
+- (NSString *)enterText:(NSString *)text into:(SettingsScreenItem *)item {
+  PSSpecifier *specifier = [item specifier];
+  UIViewController *page = [item controller];
+  long type = (long)[specifier cellType];
+  if ([item footerLink] || (type != kEditTextCellType && type != kSecureEditTextCellType))
+    return @"That row is not a text row.";
+  if (!SettingsScreenRowEnabled(specifier)) return @"That row is disabled.";
+  if (![page isKindOfClass:[PSListController class]]) return @"That row's page cannot be typed into.";
+  id cell = [(PSListController *)page cachedCellForSpecifier:specifier];
+  if (![cell isKindOfClass:[PSEditableTableCell class]]) return @"That row has no text field.";
+  return SimEditableCellType((PSEditableTableCell *)cell, text) ? nil : @"The text field did not take the text.";
+}
+
+- (NSString *)press:(NSString *)title {
+  UINavigationItem *navigationItem = [[[self screen] page] navigationItem];
+  NSMutableArray *buttons = [NSMutableArray array];
+  if ([navigationItem leftBarButtonItem] != nil) [buttons addObject:[navigationItem leftBarButtonItem]];
+  if ([navigationItem rightBarButtonItem] != nil) [buttons addObject:[navigationItem rightBarButtonItem]];
+  for (UIBarButtonItem *button in buttons) {
+    if ([[button title] caseInsensitiveCompare:title] != NSOrderedSame) continue;
+    if ([button action] == NULL) return @"That bar button has no action.";
+    return SimTapBarButtonItem(button) ? nil : @"The bar button did not respond.";
+  }
+  return [NSString stringWithFormat:@"This page has no bar button \"%@\".", title];
+}
+
 - (BOOL)openEntryNamed:(NSString *)label {
   [self render];
   for (SettingsScreenItem *item in [[self screen] items]) {
@@ -460,6 +499,14 @@ static UITextField *focusedTextField(UIView *view) {
     problem = [self share];
   } else if ([verb isEqualToString:@"mail"] && count == 2) {
     problem = [self answerMail:[words objectAtIndex:1]];
+  } else if ([verb isEqualToString:@"text"] && count == 3) {
+    SettingsScreenItem *item = [self itemNumbered:[words objectAtIndex:1] error:&problem];
+    if (item != nil) {
+      problem = [[self screen] alert] != nil ? @"Answer the alert first (alert N)."
+                                             : [self enterText:[words objectAtIndex:2] into:item];
+    }
+  } else if ([verb isEqualToString:@"press"] && count == 2) {
+    problem = [[self screen] alert] != nil ? @"Answer the alert first (alert N)." : [self press:[words objectAtIndex:1]];
   } else {
     return [NSString stringWithFormat:@"Unknown command: %@\n%@", trimmed, [SettingsConsole helpText]];
   }

@@ -18,8 +18,14 @@ NSDictionary *SettingsHostPreferenceEntry(void);
 // Loads the entry's bundle as Settings does (its start-up code runs then); returns it.
 NSBundle *SettingsHostLoadPreferenceBundle(void);
 
+// The Settings list as a person sees it on the device: the Settings app's own panes for
+// its system version (groups, panes with icons, with and without "id", apps' panes with
+// lazily loaded icons), a group of the PreferenceLoader entries installed on the device
+// (the product's opens `bundle`: the entry's class or the bundle's principal class) and
+// the panes of other makers' applications. Rows target `target`.
+NSArray *SettingsHostSettingsList(id target, NSBundle *bundle);
+
 // Builds the Settings app around the loaded bundle: the app's root navigation controller
-// shows the Settings list ("PrefsListController") whose one row is the product's
-// PreferenceLoader entry (its label, and as detail page the entry's class or the bundle's
-// principal class). Returns NO when the app or the entry is missing.
+// shows the Settings list ("PrefsListController") above. Returns NO when the app or the
+// product's entry is missing.
 BOOL SettingsHostBuildSettingsApp(NSBundle *bundle);

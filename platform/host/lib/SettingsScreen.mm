@@ -233,6 +233,29 @@ static NSString *valueText(id value, PSSpecifier *specifier) {
   return nil;
 }
 
+// A choice row: every choice by its title, the chosen one in brackets ("Off | [Medium] | Strong").
+static NSString *choicesText(id value, PSSpecifier *specifier) {
+  NSArray *values = [specifier respondsToSelector:@selector(values)] ? [specifier values] : nil;
+  if (![values isKindOfClass:[NSArray class]] || [values count] == 0) return valueText(value, specifier);
+  NSMutableArray *shown = [NSMutableArray array];
+  for (id choice in values) {
+    NSString *title = valueText(choice, specifier);
+    if (title == nil) title = [choice description];
+    [shown addObject:value != nil && [choice isEqual:value] ? [NSString stringWithFormat:@"[%@]", title] : title];
+  }
+  return [shown componentsJoinedByString:@" | "];
+}
+
+// A slider row: its value and its range ("3 (1 to 10)").
+static NSString *sliderText(id value, PSSpecifier *specifier) {
+  NSString *shown = [value respondsToSelector:@selector(doubleValue)] ? [NSString stringWithFormat:@"%g", [value doubleValue]]
+                                                                      : @"?";
+  id low = [specifier propertyForKey:@"min"], high = [specifier propertyForKey:@"max"];
+  if ([low respondsToSelector:@selector(doubleValue)] && [high respondsToSelector:@selector(doubleValue)])
+    return [NSString stringWithFormat:@"%@ (%g to %g)", shown, [low doubleValue], [high doubleValue]];
+  return shown;
+}
+
 #pragma mark - Renderer
 
 @interface SettingsScreen ()
@@ -444,11 +467,17 @@ static NSString *valueText(id value, PSSpecifier *specifier) {
         right = @"(button)";
         break;
       case kTitleValueCell:
-      case kSliderCell:
-      case kSegmentCell:
       case kListItemCell:
         value = SettingsScreenRowValue(specifier, page);
         right = valueText(value, specifier);
+        break;
+      case kSegmentCell:
+        value = SettingsScreenRowValue(specifier, page);
+        right = choicesText(value, specifier);
+        break;
+      case kSliderCell:
+        value = SettingsScreenRowValue(specifier, page);
+        right = sliderText(value, specifier);
         break;
       case kEditTextCell:
       case kSecureEditTextCell:

@@ -45,6 +45,9 @@ UIKIT_EXTERN BOOL SimListControllerTapSpecifier(PSListController *controller, PS
 UIKIT_EXTERN BOOL SimEditableListSwipeToDelete(PSListController *controller, PSSpecifier *specifier);
 /* Types into a passcode field, one character at a time. */
 UIKIT_EXTERN void SimPasscodeFieldType(PSPasscodeField *field, NSString *digits);
+/* Types into an edit-text row as the user does: focuses its field, replaces the text,
+   then ends editing with the return key (the row's setter runs when the text changed). */
+UIKIT_EXTERN BOOL SimEditableCellType(PSEditableTableCell *cell, NSString *text);
 /* Taps the link of a hyperlink footer. */
 UIKIT_EXTERN BOOL SimFooterHyperlinkTap(PSFooterHyperlinkView *view);
 

@@ -1,0 +1,18 @@
+// Switching one item of a protected list from a page: the list rule of
+// core/ProtectedList.hpp applied to the list stored under a key-table entry.
+#pragma once
+#import <Foundation/Foundation.h>
+
+#ifdef __cplusplus
+#include "core/PreferenceKeys.hpp"
+
+// C linkage, so tests find them by name.
+extern "C" {
+// Reads the entry's list, applies the switch, stores the list when the rule
+// says so and posts the change signal once either way (when the entry's
+// writes are announced, as every list's are). A nil item is ignored.
+void switchProtectedItem(NSString *item, BOOL on, const tessarin::PreferenceKey *entry);
+// Whether the item is in the entry's stored list.
+BOOL isProtectedItem(NSString *item, const tessarin::PreferenceKey *entry);
+}
+#endif

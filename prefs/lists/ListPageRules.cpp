@@ -1,0 +1,47 @@
+#include "lists/ListPageRules.hpp"
+
+#include "core/Names.hpp"
+
+namespace tessarin::lists {
+
+namespace {
+
+std::string replaceAll(std::string_view text, std::string_view from, std::string_view to) {
+    std::string out;
+    size_t at = 0;
+    while (true) {
+        const size_t found = text.find(from, at);
+        if (found == std::string_view::npos) break;
+        out.append(text.substr(at, found - at));
+        out.append(to);
+        at = found + from.size();
+    }
+    out.append(text.substr(at));
+    return out;
+}
+
+}  // namespace
+
+PaneRow paneRow(std::string_view name, int cellType) {
+    if (name == kOwnPaneName) return PaneRow::Skip;
+    if (cellType == kGroupCellType) return PaneRow::Group;
+    return PaneRow::Switch;
+}
+
+std::string rowItem(const std::optional<std::string> &identifier, std::string_view name) {
+    return identifier ? *identifier : std::string(name);
+}
+
+bool listsToggle(std::string_view switchIdentifier) { return switchIdentifier != kSwitchIdentifier; }
+
+std::string faceIDText(std::string_view row, RowText property, std::string_view text) {
+    if (row == kCallerTopRow && property == RowText::Footer) return replaceAll(text, "Touch ID", "Face ID");
+    // The resource text reads "lifting you finger"; the search keeps its missing "r".
+    if (row == kCallerFingerUpRow && property == RowText::Footer)
+        return replaceAll(text, "lifting you finger", "looking away");
+    if (row == kCallerHideRow && (property == RowText::Label || property == RowText::Name))
+        return std::string(kHideCallerFaceIDTitle);
+    return std::string(text);
+}
+
+}  // namespace tessarin::lists

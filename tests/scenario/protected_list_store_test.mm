@@ -1,0 +1,57 @@
+// The protected-list switch as the bundle performs it for every list page: what it
+// leaves on disk under the list's key and how often it announces the change.
+#import <Foundation/Foundation.h>
+#include <Simulator/Simulator.h>
+#import "BundleFixture.h"
+#include "core/Names.hpp"
+#include "core/PreferenceKeys.hpp"
+
+namespace {
+
+using SwitchItem = void (*)(NSString *, BOOL, const tessarin::PreferenceKey *);
+using IsProtected = BOOL (*)(NSString *, const tessarin::PreferenceKey *);
+using SetValue = void (*)(id, const char *);
+
+}  // namespace
+
+class ProtectedListStoreTest : public BundleTest {};
+
+TEST_F(ProtectedListStoreTest, EachSwitchStoresAsTheRuleSaysAndPostsOnce) {
+    StartDevice(SIM_DEFAULT_PROFILE, /*withSpringBoard=*/false);
+    auto flip = BundleSymbol<SwitchItem>("switchProtectedItem");
+    auto contains = BundleSymbol<IsProtected>("isProtectedItem");
+    auto set = BundleSymbol<SetValue>("setPrefsValueForKey");
+    const tessarin::PreferenceKey &entry = tessarin::key::kProtectedSettings;
+    struct Case {
+        const char *what;
+        id stored;  // nil: no key
+        NSString *item;
+        BOOL on;
+        id expected;  // nil: still no key
+    };
+    const Case cases[] = {
+        {"on into nothing", nil, @"com.apple.Wi-Fi", YES, @[ @"com.apple.Wi-Fi" ]},
+        {"on appends", @[ @"BLUETOOTH" ], @"Wi-Fi", YES, @[ @"BLUETOOTH", @"Wi-Fi" ]},
+        {"on when present leaves the key as stored", @[ @"Wi-Fi", @"Wi-Fi" ], @"Wi-Fi", YES, @[ @"Wi-Fi", @"Wi-Fi" ]},
+        {"on when present stores nothing where there was junk", @[ @"Wi-Fi", @(3) ], @"Wi-Fi", YES,
+         @[ @"Wi-Fi", @(3) ]},
+        {"off removes every copy", @[ @"Wi-Fi", @"BLUETOOTH", @"Wi-Fi" ], @"Wi-Fi", NO, @[ @"BLUETOOTH" ]},
+        {"off from nothing stores an empty list", nil, @"Wi-Fi", NO, @[]},
+        {"off of a wrong-typed value stores a list", @"Wi-Fi", @"Wi-Fi", NO, @[]},
+    };
+    for (const Case &c : cases) {
+        SCOPED_TRACE(c.what);
+        set(c.stored, entry.name());
+        const unsigned posts = SimNotifyPostCount(tessarin::kPrefsChangedNotification);
+        flip(c.item, c.on, &entry);
+        EXPECT_NSEQ([StoredPreferences() objectForKey:@(entry.name())], c.expected);
+        EXPECT_EQ(SimNotifyPostCount(tessarin::kPrefsChangedNotification), posts + 1);
+        EXPECT_EQ(contains(c.item, &entry), c.on);
+    }
+    // Nothing to switch: nothing stored, nothing posted.
+    set(nil, entry.name());
+    const unsigned posts = SimNotifyPostCount(tessarin::kPrefsChangedNotification);
+    flip(nil, YES, &entry);
+    EXPECT_EQ([StoredPreferences() objectForKey:@(entry.name())], nil);
+    EXPECT_EQ(SimNotifyPostCount(tessarin::kPrefsChangedNotification), posts);
+}
