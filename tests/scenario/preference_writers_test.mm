@@ -201,3 +201,33 @@ TEST_F(PreferenceWritersTest, PlistRowsWriteTheirTableKeyAndPostAsTheTableSays) 
         EXPECT_TRUE(write.Wrote(StoredPreferences(), c.entry, @(YES)));
     }
 }
+
+TEST_F(PreferenceWritersTest, ListPagesWriteOnlyTheirList) {
+    struct Case {
+        const char *page;
+        const PreferenceKey &entry;
+    };
+    const Case cases[] = {
+        {"TessarinApplicationsController", key::kProtected},
+        {"TessarinAppNotificationsController", key::kProtectedNotifications},
+        {"TessarinCCItemsController", key::kProtectedCCItems},
+        {"TessarinCCSettingsItemsController", key::kProtectedCCSettingsItems},
+    };
+    for (const Case &c : cases) {
+        if (NSClassFromString(@(c.page)) == Nil) continue;  // a page this bundle does not have yet
+        SCOPED_TRACE(c.page);
+        Start(@"1357");
+        PSListController *page = Push(c.page);
+        PSSpecifier *row = nil;
+        for (PSSpecifier *candidate in [page specifiers])
+            if ([candidate cellType] == PSSwitchCell && [candidate propertyForKey:@"id"] != nil) {
+                row = candidate;
+                break;
+            }
+        ASSERT_NE(row, nil);
+        NSArray *expected = [seedValue(c.entry) arrayByAddingObject:[row propertyForKey:@"id"]];
+        DomainWrite write(StoredPreferences());
+        [row performSetterWithValue:@(YES)];
+        EXPECT_TRUE(write.Wrote(StoredPreferences(), c.entry, expected));
+    }
+}

@@ -4,6 +4,7 @@
 #import <Foundation/Foundation.h>
 #include <Simulator/Simulator.h>
 #include <Simulator/SimSystemFiles.h>
+#include <Simulator/SimApplications.h>
 #include "SimInternal.h"
 
 #include <errno.h>
@@ -180,6 +181,7 @@ int SimDeviceCreate(const char *root, const char *profile)
             for (NSUInteger i = 0; i < [files count]; i++) writeEntry(rootPath, [files objectAtIndex:i]);
         }
         ok = ok && SimInstallSystemFiles(root) == 0;
+        ok = ok && SimInstallProfileApplications(root, p) == 0;
         if (ok) result = 0;
         else errno = EIO;
     }
