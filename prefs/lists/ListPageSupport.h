@@ -18,6 +18,9 @@ NSDictionary *askSpringBoardForList(const char *message);
 // A switch row of `target` with the given accessors (no detail, no edit pane).
 PSSpecifier *listSwitchRow(NSString *name, id target, SEL setter, SEL getter);
 
+// The image redrawn at `size` (points) at the screen's scale.
+UIImage *resizedImage(UIImage *image, CGSize size);
+
 // Strings between the rules and Foundation. An NSString of invalid UTF-8 is nil.
 NSString *listString(std::string_view text);
 // The string's UTF-8, or nothing for nil and anything that is not a string.

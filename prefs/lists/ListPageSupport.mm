@@ -28,6 +28,14 @@ PSSpecifier *listSwitchRow(NSString *name, id target, SEL setter, SEL getter) {
                                           edit:Nil];
 }
 
+UIImage *resizedImage(UIImage *image, CGSize size) {
+  UIGraphicsBeginImageContextWithOptions(size, NO, 0);
+  [image drawInRect:CGRectMake(0, 0, size.width, size.height)];
+  UIImage *resized = UIGraphicsGetImageFromCurrentImageContext();
+  UIGraphicsEndImageContext();
+  return resized;
+}
+
 NSString *listString(std::string_view text) {
   return [[[NSString alloc] initWithBytes:text.data() length:text.size() encoding:NSUTF8StringEncoding]
       autorelease];

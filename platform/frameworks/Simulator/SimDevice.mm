@@ -5,6 +5,7 @@
 #include <Simulator/Simulator.h>
 #include <Simulator/SimSystemFiles.h>
 #include <Simulator/SimApplications.h>
+#include <Simulator/SimSystemResources.h>
 #include "SimInternal.h"
 
 #include <errno.h>
@@ -182,6 +183,7 @@ int SimDeviceCreate(const char *root, const char *profile)
         }
         ok = ok && SimInstallSystemFiles(root) == 0;
         ok = ok && SimInstallProfileApplications(root, p) == 0;
+        ok = ok && SimInstallSystemResources(root, p) == 0;
         if (ok) result = 0;
         else errno = EIO;
     }
