@@ -1,6 +1,7 @@
 #import "SettingsConsole.h"
 #import "HostPrivateAPI.h"
 #import "SettingsScreen.h"
+#import "SettingsRowIcons.h"
 #include <Simulator/Simulator.h>
 
 // Switch rows, by cell type number.
@@ -58,6 +59,7 @@ static void performOn(id target, SEL action, id argument) {
           "  cancel             press the bar button of a modal page\n"
           "  wait SECONDS       let the app run (animations, delayed work)\n"
           "  show               print the screen again\n"
+          "  icons              list the rows with their switch state and icon\n"
           "  quit               leave\n";
 }
 
@@ -309,6 +311,11 @@ static void performOn(id target, SEL action, id argument) {
   if ([verb isEqualToString:@"show"]) {
     [self settle];
     return [self render];
+  }
+  if ([verb isEqualToString:@"icons"]) {
+    [self settle];
+    [self render];
+    return SettingsRowIconsReport([self screen]);
   }
   if ([verb isEqualToString:@"wait"]) {
     double seconds = count == 2 ? [[words objectAtIndex:1] doubleValue] : -1;
