@@ -346,3 +346,19 @@ TEST_F(ListPagesTest, ControlCenterSwitchesStoreTheirIdentifiers) {
         EXPECT_TRUE(off.Wrote(StoredPreferences(), c.entry, @[]));
     }
 }
+
+TEST_F(ListPagesTest, TheFoldersPageRereadsItsSwitchesEachTimeItAppears) {
+    StartDevice(SIM_DEFAULT_PROFILE, true);
+    PSListController *page = Open(@"TessarinFoldersController");
+    NSArray *before = [page specifiers];
+    PSSpecifier *social = Named(page, @"Social");
+    ASSERT_NE(social, nil);
+    EXPECT_NSEQ([page performSelector:@selector(getFolderProtectEnabledForSpecifier:) withObject:social], @(NO));
+    // SpringBoard's half (or another page) protects the folder meanwhile.
+    BundleSymbol<void (*)(id, const char *)>("setPrefsValueForKey")(@[ @"Social" ], "protectedFolders");
+    [page viewDidAppear:NO];
+    EXPECT_NE([page specifiers], before);  // rebuilt
+    PSSpecifier *again = Named(page, @"Social");
+    ASSERT_NE(again, nil);
+    EXPECT_NSEQ([page performSelector:@selector(getFolderProtectEnabledForSpecifier:) withObject:again], @(YES));
+}
