@@ -231,3 +231,25 @@ TEST_F(PreferenceWritersTest, ListPagesWriteOnlyTheirList) {
         EXPECT_TRUE(write.Wrote(StoredPreferences(), c.entry, expected));
     }
 }
+
+TEST_F(PreferenceWritersTest, TheFoldersPageWritesOnlyItsList) {
+    // As Start, with SpringBoard answering the folder request.
+    StartDevice(SIM_DEFAULT_PROFILE, true);
+    SimSettingsReset();
+    ASSERT_TRUE(SettingsHostBuildSettingsApp(SettingsHostLoadPreferenceBundle()));
+    auto set = BundleSymbol<void (*)(id, const char *)>("setPrefsValueForKey");
+    for (const PreferenceKey &entry : tessarin::kPreferenceKeys)
+        set(entry.key == key::kPasscode.key ? @"1357" : seedValue(entry), entry.name());
+    PSListController *page = Push("TessarinFoldersController");
+    PSSpecifier *row = nil;
+    for (PSSpecifier *candidate in [page specifiers])
+        if ([candidate cellType] == PSSwitchCell && [candidate name] != nil) {
+            row = candidate;
+            break;
+        }
+    ASSERT_NE(row, nil);
+    DomainWrite write(StoredPreferences());
+    [row performSetterWithValue:@(YES)];
+    EXPECT_TRUE(write.Wrote(StoredPreferences(), key::kProtectedFolders,
+                            [seedValue(key::kProtectedFolders) arrayByAddingObject:[row name]]));
+}
