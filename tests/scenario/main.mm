@@ -7,8 +7,9 @@
 
 int main(int argc, char **argv) {
   NSAutoreleasePool *pool = [[NSAutoreleasePool alloc] init];
-  // Sorting and case-insensitive comparisons follow the locale, as on a device set to English.
-  setenv("LANG", "en_US.UTF-8", 0);
+  // Sorting and case-insensitive comparisons follow the locale, as on a device set to English
+  // (whatever the calling shell's locale: C.UTF-8 compares case-sensitively).
+  setenv("LANG", "en_US.UTF-8", 1);
   int status = 0;
   if (!RunChildHelperIfRequested(argc, argv, &status)) {
     ::testing::InitGoogleTest(&argc, argv);

@@ -244,3 +244,55 @@ TEST_F(PreferenceWritersTest, ListSwitchesAndTheTitleWriteTheirKeyAndPostOnce) {
     SimRunLoopRunFor(0.8);
     EXPECT_TRUE(write.Wrote(StoredPreferences(), key::kAlertTitle, @"Locked"));
 }
+
+TEST_F(PreferenceWritersTest, ListPagesWriteOnlyTheirList) {
+    struct Case {
+        const char *page;
+        const PreferenceKey &entry;
+    };
+    const Case cases[] = {
+        {"TessarinApplicationsController", key::kProtected},
+        {"TessarinAppNotificationsController", key::kProtectedNotifications},
+        {"TessarinCCItemsController", key::kProtectedCCItems},
+        {"TessarinCCSettingsItemsController", key::kProtectedCCSettingsItems},
+    };
+    for (const Case &c : cases) {
+        if (NSClassFromString(@(c.page)) == Nil) continue;  // a page this bundle does not have yet
+        SCOPED_TRACE(c.page);
+        Start(@"1357");
+        PSListController *page = Push(c.page);
+        PSSpecifier *row = nil;
+        for (PSSpecifier *candidate in [page specifiers])
+            if ([candidate cellType] == PSSwitchCell && [candidate propertyForKey:@"id"] != nil) {
+                row = candidate;
+                break;
+            }
+        ASSERT_NE(row, nil);
+        NSArray *expected = [seedValue(c.entry) arrayByAddingObject:[row propertyForKey:@"id"]];
+        DomainWrite write(StoredPreferences());
+        [row performSetterWithValue:@(YES)];
+        EXPECT_TRUE(write.Wrote(StoredPreferences(), c.entry, expected));
+    }
+}
+
+TEST_F(PreferenceWritersTest, TheFoldersPageWritesOnlyItsList) {
+    // As Start, with SpringBoard answering the folder request.
+    StartDevice(SIM_DEFAULT_PROFILE, true);
+    SimSettingsReset();
+    ASSERT_TRUE(SettingsHostBuildSettingsApp(SettingsHostLoadPreferenceBundle()));
+    auto set = BundleSymbol<void (*)(id, const char *)>("setPrefsValueForKey");
+    for (const PreferenceKey &entry : tessarin::kPreferenceKeys)
+        set(entry.key == key::kPasscode.key ? @"1357" : seedValue(entry), entry.name());
+    PSListController *page = Push("TessarinFoldersController");
+    PSSpecifier *row = nil;
+    for (PSSpecifier *candidate in [page specifiers])
+        if ([candidate cellType] == PSSwitchCell && [candidate name] != nil) {
+            row = candidate;
+            break;
+        }
+    ASSERT_NE(row, nil);
+    DomainWrite write(StoredPreferences());
+    [row performSetterWithValue:@(YES)];
+    EXPECT_TRUE(write.Wrote(StoredPreferences(), key::kProtectedFolders,
+                            [seedValue(key::kProtectedFolders) arrayByAddingObject:[row name]]));
+}

@@ -4,6 +4,8 @@
 #import <Foundation/Foundation.h>
 #include <Simulator/Simulator.h>
 #include <Simulator/SimSystemFiles.h>
+#include <Simulator/SimApplications.h>
+#include <Simulator/SimSystemResources.h>
 #include "SimInternal.h"
 
 #include <errno.h>
@@ -194,6 +196,8 @@ int SimDeviceCreate(const char *root, const char *profile)
         }
         ok = ok && SimInstallSystemFiles(root) == 0;
         ok = ok && SimInstallSystemFrameworks(root, p) == 0;
+        ok = ok && SimInstallProfileApplications(root, p) == 0;
+        ok = ok && SimInstallSystemResources(root, p) == 0;
         if (ok) result = 0;
         else errno = EIO;
     }

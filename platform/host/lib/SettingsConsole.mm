@@ -2,6 +2,7 @@
 #import "SettingsIconRows.h"
 #import "HostPrivateAPI.h"
 #import "SettingsScreen.h"
+#import "SettingsRowIcons.h"
 #include <Simulator/Simulator.h>
 
 // Switch rows, by cell type number.
@@ -71,6 +72,7 @@ static void performOn(id target, SEL action, id argument) {
           "  press TITLE        press the page's bar button with that title (press Save)\n"
           "  wait SECONDS       let the app run (animations, delayed work)\n"
           "  show               print the screen again\n"
+          "  icons              list the rows with their switch state and icon\n"
           "  quit               leave\n";
 }
 
@@ -437,6 +439,11 @@ static UITextField *focusedTextField(UIView *view) {
   if ([verb isEqualToString:@"show"]) {
     [self settle];
     return [self render];
+  }
+  if ([verb isEqualToString:@"icons"]) {
+    [self settle];
+    [self render];
+    return SettingsRowIconsReport([self screen]);
   }
   if ([verb isEqualToString:@"wait"]) {
     double seconds = count == 2 ? [[words objectAtIndex:1] doubleValue] : -1;

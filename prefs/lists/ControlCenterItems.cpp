@@ -1,0 +1,121 @@
+#include "lists/ControlCenterItems.hpp"
+
+#include <algorithm>
+
+namespace tessarin::lists {
+
+const CCTableRow kConnectivitySettingsIconRows[6] = {
+    {"Airplane Mode", "airplane", "AirplaneMode", kPreferencesFramework},
+    {"Cellular Data", "cellular", "CellularData", kPreferencesFramework},
+    {"WiFi", "wifi", "WiFi", kPreferencesFramework},
+    {"Bluetooth", "bluetooth", "Bluetooth", kPreferencesFramework},
+    {"AirDrop", "airdrop", "AirDrop-Settings", kSharingFramework},
+    {"Personal Hotspot", "hotspot", "PersonalHotspot", kPreferencesFramework},
+};
+
+const CCTableRow kConnectivityGlyphRows[6] = {
+    {"Airplane Mode", "airplane", "AirplaneGlyph", kConnectivityModule},
+    {"Cellular Data", "cellular", "CellularDataGlyph", kConnectivityModule},
+    {"WiFi", "wifi", "WiFiSignalHighGlyph", kConnectivityModule},
+    {"Bluetooth", "bluetooth", "bt_logo", kLegacyGameKitFramework},
+    {"AirDrop", "airdrop", "AirDropGlyph", kConnectivityModule},
+    {"Personal Hotspot", "hotspot", "HotspotGlyph", kConnectivityModule},
+};
+
+// The classic layout takes each glyph from SpringBoard, else from ControlCenterUI.
+const CCTableRow kClassicRows[5] = {
+    {"Airplane Mode", "airplaneMode", "ControlCenterGlyphAirplane", ""},
+    {"Wifi", "wifi", "ControlCenterGlyphWifi", ""},
+    {"Bluetooth", "bluetooth", "ControlCenterGlyphBluetooth", ""},
+    {"Do not disturb", "doNotDisturb", "ControlCenterGlyphMoon", ""},
+    {"Orientation lock", "orientationLock", "ControlCenterGlyphOrientationLocked", ""},
+};
+
+const std::string_view kSkippedModules[6] = {
+    "AudioModule.bundle",   "ConnectivityModule.bundle",     "MuteModule.bundle",
+    "DisplayModule.bundle", "OrientationLockModule.bundle", "MediaControlsModule.bundle",
+};
+
+bool isSkippedModule(std::string_view bundleName) {
+    return std::find(std::begin(kSkippedModules), std::end(kSkippedModules), bundleName) != std::end(kSkippedModules);
+}
+
+std::string_view moduleImageName(std::string_view bundleName) {
+    if (bundleName == "AirPlayMirroringModule.bundle") return "AirPlayMirroringGlyph";
+    if (bundleName == "DoNotDisturbModule.bundle") return "DND";
+    return "SettingsIcon";
+}
+
+std::string withoutWord(std::string_view text, std::string_view word) {
+    if (word.empty()) return std::string(text);
+    std::string out;
+    size_t at = 0;
+    for (size_t found; (found = text.find(word, at)) != std::string_view::npos; at = found + word.size())
+        out.append(text.substr(at, found - at));
+    out.append(text.substr(at));
+    return out;
+}
+
+std::optional<std::string> moduleTitle(std::string_view bundleName, const std::optional<std::string> &displayName,
+                                       const std::optional<std::string> &bundleDisplayName) {
+    if (bundleName == "ReplayKitModule.bundle") return std::string("Screen Recording");
+    if (displayName) return displayName;
+    if (bundleDisplayName) return withoutWord(*bundleDisplayName, "Module");
+    return std::nullopt;
+}
+
+std::string capitalisedWords(std::string_view text) {
+    std::string out(text);
+    bool wordStart = true;
+    for (char &c : out) {
+        const bool blank = c == ' ' || c == '\t' || c == '\n' || c == '\r';
+        if (blank) {
+            wordStart = true;
+            continue;
+        }
+        if (c >= 'a' && c <= 'z' && wordStart) c = static_cast<char>(c - 'a' + 'A');
+        else if (c >= 'A' && c <= 'Z' && !wordStart) c = static_cast<char>(c - 'A' + 'a');
+        wordStart = false;
+    }
+    return out;
+}
+
+std::string ccSettingsTitle(std::string_view identifier) {
+    if (identifier == "dataRate") return "LTE";
+    if (identifier == "killbackground") return "Kill Background";
+    if (identifier == "VPN") return "VPN";
+    if (identifier == "wifi") return "WiFi";
+    std::string split;
+    for (char c : identifier) {
+        if (c >= 'A' && c <= 'Z') split.push_back(' ');
+        split.push_back(c);
+    }
+    return capitalisedWords(split);
+}
+
+std::string ccSettingsIconName(std::string_view identifier) {
+    if (ccSettingsTitle(identifier) == "LTE") return "LTE";
+    return std::string(identifier);
+}
+
+const std::string_view kCCSettingsFixedOrder[21] = {
+    "wifi", "airplaneMode", "location", "doNotDisturb", "home",     "lock",           "bluetooth",
+    "hotspot", "VPN",       "autoLock", "orientationLock", "vibrate", "mute",          "dataRate",
+    "killbackground", "clearBadge", "shutdown", "reboot", "respring", "screenShot", "data",
+};
+
+std::vector<std::string> ccSettingsOrder(const plist::Value *orderFile) {
+    const plist::Value::Dictionary *entries = orderFile ? orderFile->asDictionary() : nullptr;
+    if (entries == nullptr) return {std::begin(kCCSettingsFixedOrder), std::end(kCCSettingsFixedOrder)};
+    std::vector<double> positions;
+    for (const plist::Value::Entry &e : *entries)
+        if (std::optional<double> p = e.second.numberValue(); p && *p == *p) positions.push_back(*p);  // NaN has no place
+    std::sort(positions.begin(), positions.end());
+    std::vector<std::string> order;
+    for (double position : positions)
+        for (const plist::Value::Entry &e : *entries)
+            if (e.second.numberValue() == position) order.push_back(e.first);
+    return order;
+}
+
+}  // namespace tessarin::lists

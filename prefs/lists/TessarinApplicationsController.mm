@@ -1,0 +1,122 @@
+#import "lists/TessarinApplicationsController.h"
+
+#import "core/BundleLookup.h"
+#import "core/Paths.h"
+#import "core/ProtectedListStore.h"
+#import "lists/ListPageSupport.h"
+#include "core/Names.hpp"
+#include "core/PreferenceKeys.hpp"
+#include "lists/ApplicationScan.hpp"
+
+namespace {
+
+namespace lists = tessarin::lists;
+
+lists::InfoValue infoValue(id object) {
+  if (object == nil) return lists::InfoValue::absent();
+  std::optional<std::string> text = listUtf8(object);
+  return text ? lists::InfoValue::string(*text) : lists::InfoValue::other();
+}
+
+// The candidate bundles of one source, as device paths, in directory order.
+NSArray *candidatePaths(lists::AppSource source, NSString *directory) {
+  NSFileManager *files = [NSFileManager defaultManager];
+  NSMutableArray *paths = [NSMutableArray array];
+  NSArray *entries = [files contentsOfDirectoryAtPath:devicePath(directory) error:NULL];
+  for (NSString *entry in entries) {
+    NSString *path = [directory stringByAppendingPathComponent:entry];
+    if (!lists::holdsContainers(source)) {
+      [paths addObject:path];
+      continue;
+    }
+    for (NSString *inner in [files contentsOfDirectoryAtPath:devicePath(path) error:NULL]) {
+      const char *utf8 = [inner UTF8String];
+      if (utf8 != NULL && lists::isCandidateEntry(source, utf8, true))
+        [paths addObject:[path stringByAppendingPathComponent:inner]];
+    }
+  }
+  return paths;
+}
+
+lists::AllowedApplications allowedApplications() {
+  id apps = [askSpringBoardForList(tessarin::message::kApplications) objectForKey:@"apps"];
+  // Without a list every application is offered (a membership test against
+  // nothing answers "found").
+  if (![apps isKindOfClass:[NSArray class]]) return lists::AllowedApplications();
+  std::vector<std::string> identifiers;
+  for (id app in (NSArray *)apps)
+    if (std::optional<std::string> text = listUtf8(app)) identifiers.push_back(*text);
+  return lists::AllowedApplications(std::move(identifiers));
+}
+
+}  // namespace
+
+@implementation TessarinApplicationsController
+
+- (NSMutableArray *)specifiers {
+  if (_specifiers != nil) return (NSMutableArray *)_specifiers;
+
+  lists::ApplicationListing listing(allowedApplications());
+  NSMutableArray *rows = [NSMutableArray array];
+  [rows addObject:listFooterGroup(localizedString(
+                      @"APPLICATIONS_FOOTER", @"Choose the applications that you want to protect from the list below"))];
+  [rows addObject:[PSSpecifier emptyGroupSpecifier]];
+
+  const bool containerRootExists = deviceFileExists(@(lists::kContainerRoot));
+  for (lists::AppSource source : lists::kAppSources) {
+    NSString *directory = listString(lists::sourceDirectory(source, containerRootExists));
+    for (NSString *path in candidatePaths(source, directory)) {
+      NSBundle *bundle = [NSBundle bundleWithPath:devicePath(path)];
+      if (bundle == nil) continue;
+      NSDictionary *info = [bundle infoDictionary];
+      lists::InfoValue name = lists::infoName(infoValue([info objectForKey:@"CFBundleDisplayName"]),
+                                              infoValue([info objectForKey:@"CFBundleName"]),
+                                              infoValue([info objectForKey:@"CFBundleExecutable"]));
+      if (lists::localisesName(name)) {
+        name = infoValue([bundle localizedStringForKey:@"CFBundleDisplayName"
+                                                 value:listString(name.text)
+                                                 table:@"InfoPlist"]);
+      }
+      NSString *identifier = [bundle bundleIdentifier];
+      std::optional<std::string> listed = listing.consider(source, name, listUtf8(identifier));
+      if (!listed) continue;
+      PSSpecifier *row = listSwitchRow(listString(*listed), self, @selector(setProtectEnabled:specifier:),
+                                       @selector(getProtectEnabledForSpecifier:));
+      if (identifier != nil) {
+        [row setProperty:identifier forKey:@"id"];
+        [row setProperty:identifier forKey:@"appIDForLazyIcon"];
+      }
+      [row setProperty:@(YES) forKey:@"useLazyIcons"];
+      [rows addObject:row];
+    }
+  }
+
+  NSSortDescriptor *byName = [NSSortDescriptor sortDescriptorWithKey:@"name"
+                                                           ascending:YES
+                                                            selector:@selector(localizedCaseInsensitiveCompare:)];
+  NSArray *sorted = [rows sortedArrayUsingDescriptors:@[ byName ]];
+  _specifiers = [sorted mutableCopy];
+  return (NSMutableArray *)_specifiers;
+}
+
+- (NSNumber *)getProtectEnabledForSpecifier:(PSSpecifier *)specifier {
+  return @(isProtectedItem([specifier identifier], &tessarin::key::kProtected));
+}
+
+- (void)setProtectEnabled:(NSNumber *)value specifier:(PSSpecifier *)specifier {
+  switchProtectedItem([specifier identifier], [value boolValue], &tessarin::key::kProtected);
+}
+
+@end
+
+@implementation TessarinAppNotificationsController
+
+- (NSNumber *)getProtectEnabledForSpecifier:(PSSpecifier *)specifier {
+  return @(isProtectedItem([specifier identifier], &tessarin::key::kProtectedNotifications));
+}
+
+- (void)setProtectEnabled:(NSNumber *)value specifier:(PSSpecifier *)specifier {
+  switchProtectedItem([specifier identifier], [value boolValue], &tessarin::key::kProtectedNotifications);
+}
+
+@end

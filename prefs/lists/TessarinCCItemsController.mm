@@ -1,0 +1,190 @@
+#import "lists/TessarinCCItemsController.h"
+
+#import "core/BundleLookup.h"
+#import "core/Paths.h"
+#import "core/ProtectedListStore.h"
+#import "lists/ListPageSupport.h"
+#include "core/PreferenceKeys.hpp"
+#include "core/plist/BinaryPlist.hpp"
+#include "lists/ControlCenterItems.hpp"
+
+namespace {
+
+namespace lists = tessarin::lists;
+
+// Set only while the six connectivity glyph rows are made: roundedImage: then
+// turns the glyph white on transparent.
+BOOL whiteTint = NO;
+
+NSBundle *bundleAt(const char *path) { return [NSBundle bundleWithPath:devicePath(@(path))]; }
+
+NSBundle *bundleAt(std::string_view path) { return [NSBundle bundleWithPath:devicePath(listString(path))]; }
+
+UIImage *imageIn(std::string_view name, NSBundle *bundle) {
+  if (bundle == nil) return nil;
+  return [UIImage imageNamed:listString(name) inBundle:bundle compatibleWithTraitCollection:nil];
+}
+
+// The CCSettings toggle identifiers in the extension's order.
+NSArray *CCSettingsArray() {
+  NSData *data = [NSData dataWithContentsOfFile:devicePath(@(lists::kCCSettingsOrderFile))];
+  std::optional<tessarin::plist::Value> order;
+  if (data != nil) order = tessarin::plist::readPlist(static_cast<const uint8_t *>([data bytes]), [data length]);
+  NSMutableArray *identifiers = [NSMutableArray array];
+  for (const std::string &identifier : lists::ccSettingsOrder(order ? &*order : nullptr)) {
+    NSString *text = listString(identifier);
+    if (text != nil) [identifiers addObject:text];
+  }
+  return identifiers;
+}
+
+}  // namespace
+
+@implementation TessarinCCItemsController
+
+- (NSArray *)specifiers {
+  if (_specifiers != nil) return _specifiers;
+
+  NSMutableArray *rows = [NSMutableArray array];
+  [rows addObject:listFooterGroup(localizedString(
+                      @"CONTROLCENTER_FOOTER", @"Choose the Control Center items that you want to protect from the list below"))];
+  [rows addObject:[PSSpecifier emptyGroupSpecifier]];
+
+  if (lists::controlCenterLayout(deviceFileExists(@(lists::kSystemModulesDirectory))) == lists::CCLayout::Modular) {
+    [self addConnectivityRowsTo:rows];
+    [rows addObject:[PSSpecifier emptyGroupSpecifier]];
+    [self addModulesIn:@(lists::kSystemModulesDirectory) to:rows];
+    if (lists::listsAddOnModules(deviceFileExists(@(lists::kAddOnModulesDirectory)),
+                                 deviceFileExists(@(lists::kCCSupportLibrary)))) {
+      [rows addObject:[PSSpecifier emptyGroupSpecifier]];
+      [self addModulesIn:@(lists::kAddOnModulesDirectory) to:rows];
+    }
+  } else {
+    NSBundle *springBoard = bundleAt(lists::kSpringBoardApp);
+    NSBundle *controlCenterUI = bundleAt(lists::kControlCenterUIFramework);
+    for (const lists::CCTableRow &item : lists::kClassicRows) {
+      UIImage *glyph = imageIn(item.image, springBoard);
+      if (glyph == nil) glyph = imageIn(item.image, controlCenterUI);
+      PSSpecifier *row = listSwitchRow(listString(item.title), self, @selector(setCCItemProtectEnabled:specifier:),
+                                       @selector(getCCItemProtectEnabledForSpecifier:));
+      [row setProperty:listString(item.identifier) forKey:@"id"];
+      if (glyph != nil) {
+        UIImage *icon = resizedImage(glyph, CGSizeMake(lists::kClassicGlyphWidth, lists::kClassicGlyphHeight));
+        if (icon != nil) [row setProperty:icon forKey:@"iconImage"];
+      }
+      [rows addObject:row];
+    }
+  }
+  _specifiers = [rows copy];
+  return _specifiers;
+}
+
+- (void)addConnectivityRowsTo:(NSMutableArray *)rows {
+  const bool settingsIcons =
+      imageIn(lists::kConnectivityProbeImage, bundleAt(lists::kPreferencesFramework)) != nil;
+  whiteTint = settingsIcons ? NO : YES;
+  for (const lists::CCTableRow &item :
+       settingsIcons ? lists::kConnectivitySettingsIconRows : lists::kConnectivityGlyphRows) {
+    UIImage *image = imageIn(item.image, bundleAt(item.bundle));
+    if (!settingsIcons) image = [image imageWithRenderingMode:UIImageRenderingModeAlwaysTemplate];
+    PSSpecifier *row = [self newSpecifierWithName:listString(item.title)
+                                            andID:listString(item.identifier)
+                                         andImage:image];
+    [rows addObject:row];
+    [row release];
+  }
+  whiteTint = NO;
+}
+
+- (void)addModulesIn:(NSString *)directory to:(NSMutableArray *)rows {
+  for (NSString *entry in [[NSFileManager defaultManager] contentsOfDirectoryAtPath:devicePath(directory) error:NULL]) {
+    const char *name = [entry UTF8String];
+    if (name == NULL || lists::isSkippedModule(name)) continue;
+    NSBundle *module = [NSBundle bundleWithPath:devicePath([NSString stringWithFormat:@"%@/%@", directory, entry])];
+    NSDictionary *info = [module infoDictionary];
+    std::optional<std::string> title = lists::moduleTitle(name, listUtf8([info objectForKey:@"CFBundleDisplayName"]),
+                                                          listUtf8([info objectForKey:@"CFBundleName"]));
+    PSSpecifier *row = [self newSpecifierWithName:title ? listString(*title) : nil
+                                            andID:[module bundleIdentifier]
+                                         andImage:imageIn(lists::moduleImageName(name), module)];
+    [rows addObject:row];
+    [row release];
+  }
+}
+
+- (PSSpecifier *)newSpecifierWithName:(NSString *)name andID:(NSString *)identifier andImage:(UIImage *)image {
+  PSSpecifier *row = listSwitchRow(name, self, @selector(setCCItemProtectEnabled:specifier:),
+                                   @selector(getCCItemProtectEnabledForSpecifier:));
+  if (identifier != nil) [row setProperty:identifier forKey:@"id"];
+  UIImage *icon = [self roundedImage:image];
+  if (icon != nil) [row setProperty:icon forKey:@"iconImage"];
+  return [row retain];
+}
+
+- (UIImage *)roundedImage:(UIImage *)image {
+  if (image == nil) image = [UIImage _applicationIconImageForBundleIdentifier:nil format:0];
+  if (image == nil) return nil;
+  const CGSize size = [image size];
+  const CGRect whole = CGRectMake(0, 0, size.width, size.height);
+  UIGraphicsBeginImageContextWithOptions(size, NO, [[UIScreen mainScreen] scale]);
+  [[UIBezierPath bezierPathWithRoundedRect:whole cornerRadius:lists::kRoundedIconRadius] addClip];
+  [image drawInRect:whole];
+  if (whiteTint) {
+    CGContextRef context = UIGraphicsGetCurrentContext();
+    CGContextSetBlendMode(context, (CGBlendMode)lists::kWhiteTintBlendMode);
+    [[UIColor whiteColor] setFill];
+    CGContextFillRect(context, whole);
+  }
+  UIImage *rounded = UIGraphicsGetImageFromCurrentImageContext();
+  UIGraphicsEndImageContext();
+  return rounded;
+}
+
+- (NSNumber *)getCCItemProtectEnabledForSpecifier:(PSSpecifier *)specifier {
+  return @(isProtectedItem([specifier propertyForKey:@"id"], &tessarin::key::kProtectedCCItems));
+}
+
+- (void)setCCItemProtectEnabled:(NSNumber *)value specifier:(PSSpecifier *)specifier {
+  switchProtectedItem([specifier propertyForKey:@"id"], [value boolValue], &tessarin::key::kProtectedCCItems);
+}
+
+@end
+
+@implementation TessarinCCSettingsItemsController
+
+- (NSArray *)specifiers {
+  if (_specifiers != nil) return _specifiers;
+
+  NSMutableArray *rows = [NSMutableArray array];
+  [rows addObject:listFooterGroup(localizedString(
+                      @"CCSETTINGS_FOOTER", @"Choose the CCSettings items that you want to protect from the list below"))];
+  [rows addObject:[PSSpecifier emptyGroupSpecifier]];
+
+  NSBundle *settings = bundleAt(lists::kCCSettingsBundle);
+  for (NSString *identifier in CCSettingsArray()) {
+    const char *utf8 = [identifier UTF8String];
+    if (utf8 == NULL) continue;
+    PSSpecifier *row = listSwitchRow(listString(lists::ccSettingsTitle(utf8)), self,
+                                     @selector(setCCSettingsItemProtectEnabled:specifier:),
+                                     @selector(getCCSettingsItemProtectEnabledForSpecifier:));
+    [row setProperty:identifier forKey:@"id"];
+    NSString *icon = listString(lists::ccSettingsIconName(utf8));
+    if (icon != nil && [settings pathForResource:[NSString stringWithFormat:@"%@@2x", icon] ofType:@"png"] != nil) {
+      UIImage *image = [UIImage imageNamed:icon inBundle:settings compatibleWithTraitCollection:nil];
+      if (image != nil) [row setProperty:image forKey:@"iconImage"];
+    }
+    [rows addObject:row];
+  }
+  _specifiers = [rows copy];
+  return _specifiers;
+}
+
+- (NSNumber *)getCCSettingsItemProtectEnabledForSpecifier:(PSSpecifier *)specifier {
+  return @(isProtectedItem([specifier propertyForKey:@"id"], &tessarin::key::kProtectedCCSettingsItems));
+}
+
+- (void)setCCSettingsItemProtectEnabled:(NSNumber *)value specifier:(PSSpecifier *)specifier {
+  switchProtectedItem([specifier propertyForKey:@"id"], [value boolValue], &tessarin::key::kProtectedCCSettingsItems);
+}
+
+@end
