@@ -1,4 +1,5 @@
 #import "appearance/TessarinAlertTitleController.h"
+#import "core/Strings.h"
 #import "core/BundleLookup.h"
 #import "core/PreferenceStore.h"
 #include <optional>
@@ -7,12 +8,6 @@
 #include "core/Names.hpp"
 
 namespace {
-
-NSString *stringOf(std::string_view s) {
-  NSString *value = [[[NSString alloc] initWithBytes:s.data() length:s.size() encoding:NSUTF8StringEncoding]
-      autorelease];
-  return value != nil ? value : @"";
-}
 
 }  // namespace
 
@@ -36,9 +31,9 @@ NSString *stringOf(std::string_view s) {
                                                         cell:PSEditTextCell
                                                         edit:Nil];
   [title setProperty:@(tessarin::kDomain) forKey:@"defaults"];
-  [title setProperty:stringOf(tessarin::behaviour::kDefaultAlertTitle) forKey:@"default"];
+  [title setProperty:nsStringOrEmpty(tessarin::behaviour::kDefaultAlertTitle) forKey:@"default"];
   [title setProperty:@(tessarin::key::kAlertTitle.name()) forKey:@"key"];
-  [title setProperty:stringOf(tessarin::behaviour::kAlertTitleRow) forKey:@"id"];
+  [title setProperty:nsStringOrEmpty(tessarin::behaviour::kAlertTitleRow) forKey:@"id"];
   _specifiers = [@[ group, title ] copy];
   return _specifiers;
 }
@@ -54,13 +49,13 @@ NSString *stringOf(std::string_view s) {
 }
 
 - (void)save:(id)sender {
-  PSSpecifier *row = [self specifierForID:stringOf(tessarin::behaviour::kAlertTitleRow)];
+  PSSpecifier *row = [self specifierForID:nsStringOrEmpty(tessarin::behaviour::kAlertTitleRow)];
   id cell = [row propertyForKey:@"cellObject"];
   id text = [cell respondsToSelector:@selector(textLabel)] ? [[cell textLabel] text] : nil;
   std::optional<std::string> typed;
   if ([text isKindOfClass:[NSString class]] && [text UTF8String] != NULL) typed = std::string([text UTF8String]);
   const std::string title = tessarin::behaviour::savedAlertTitle(typed);
-  setPrefsValueForKey(stringOf(title), tessarin::key::kAlertTitle.name());
+  setPrefsValueForKey(nsStringOrEmpty(title), tessarin::key::kAlertTitle.name());
   [[self navigationController] popViewControllerAnimated:YES];
   if (tessarin::postsChangeSignal(tessarin::key::kAlertTitle)) postPrefsChanged();
 }

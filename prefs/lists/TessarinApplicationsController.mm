@@ -14,7 +14,7 @@ namespace lists = tessarin::lists;
 
 lists::InfoValue infoValue(id object) {
   if (object == nil) return lists::InfoValue::absent();
-  std::optional<std::string> text = listUtf8(object);
+  std::optional<std::string> text = utf8String(object);
   return text ? lists::InfoValue::string(*text) : lists::InfoValue::other();
 }
 
@@ -39,13 +39,13 @@ NSArray *candidatePaths(lists::AppSource source, NSString *directory) {
 }
 
 lists::AllowedApplications allowedApplications() {
-  id apps = [askSpringBoardForList(tessarin::message::kApplications) objectForKey:@"apps"];
+  id apps = [askSpringBoard(tessarin::message::kApplications) objectForKey:@"apps"];
   // Without a list every application is offered (a membership test against
   // nothing answers "found").
   if (![apps isKindOfClass:[NSArray class]]) return lists::AllowedApplications();
   std::vector<std::string> identifiers;
   for (id app in (NSArray *)apps)
-    if (std::optional<std::string> text = listUtf8(app)) identifiers.push_back(*text);
+    if (std::optional<std::string> text = utf8String(app)) identifiers.push_back(*text);
   return lists::AllowedApplications(std::move(identifiers));
 }
 
@@ -58,13 +58,13 @@ lists::AllowedApplications allowedApplications() {
 
   lists::ApplicationListing listing(allowedApplications());
   NSMutableArray *rows = [NSMutableArray array];
-  [rows addObject:listFooterGroup(localizedString(
+  [rows addObject:footerGroup(localizedString(
                       @"APPLICATIONS_FOOTER", @"Choose the applications that you want to protect from the list below"))];
   [rows addObject:[PSSpecifier emptyGroupSpecifier]];
 
   const bool containerRootExists = deviceFileExists(@(lists::kContainerRoot));
   for (lists::AppSource source : lists::kAppSources) {
-    NSString *directory = listString(lists::sourceDirectory(source, containerRootExists));
+    NSString *directory = nsString(lists::sourceDirectory(source, containerRootExists));
     for (NSString *path in candidatePaths(source, directory)) {
       NSBundle *bundle = [NSBundle bundleWithPath:devicePath(path)];
       if (bundle == nil) continue;
@@ -74,13 +74,13 @@ lists::AllowedApplications allowedApplications() {
                                               infoValue([info objectForKey:@"CFBundleExecutable"]));
       if (lists::localisesName(name)) {
         name = infoValue([bundle localizedStringForKey:@"CFBundleDisplayName"
-                                                 value:listString(name.text)
+                                                 value:nsString(name.text)
                                                  table:@"InfoPlist"]);
       }
       NSString *identifier = [bundle bundleIdentifier];
-      std::optional<std::string> listed = listing.consider(source, name, listUtf8(identifier));
+      std::optional<std::string> listed = listing.consider(source, name, utf8String(identifier));
       if (!listed) continue;
-      PSSpecifier *row = listSwitchRow(listString(*listed), self, @selector(setProtectEnabled:specifier:),
+      PSSpecifier *row = listSwitchRow(nsString(*listed), self, @selector(setProtectEnabled:specifier:),
                                        @selector(getProtectEnabledForSpecifier:));
       if (identifier != nil) {
         [row setProperty:identifier forKey:@"id"];

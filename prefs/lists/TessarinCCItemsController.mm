@@ -18,11 +18,11 @@ BOOL whiteTint = NO;
 
 NSBundle *bundleAt(const char *path) { return [NSBundle bundleWithPath:devicePath(@(path))]; }
 
-NSBundle *bundleAt(std::string_view path) { return [NSBundle bundleWithPath:devicePath(listString(path))]; }
+NSBundle *bundleAt(std::string_view path) { return [NSBundle bundleWithPath:devicePath(nsString(path))]; }
 
 UIImage *imageIn(std::string_view name, NSBundle *bundle) {
   if (bundle == nil) return nil;
-  return [UIImage imageNamed:listString(name) inBundle:bundle compatibleWithTraitCollection:nil];
+  return [UIImage imageNamed:nsString(name) inBundle:bundle compatibleWithTraitCollection:nil];
 }
 
 // The CCSettings toggle identifiers in the extension's order.
@@ -32,7 +32,7 @@ NSArray *CCSettingsArray() {
   if (data != nil) order = tessarin::plist::readPlist(static_cast<const uint8_t *>([data bytes]), [data length]);
   NSMutableArray *identifiers = [NSMutableArray array];
   for (const std::string &identifier : lists::ccSettingsOrder(order ? &*order : nullptr)) {
-    NSString *text = listString(identifier);
+    NSString *text = nsString(identifier);
     if (text != nil) [identifiers addObject:text];
   }
   return identifiers;
@@ -46,7 +46,7 @@ NSArray *CCSettingsArray() {
   if (_specifiers != nil) return _specifiers;
 
   NSMutableArray *rows = [NSMutableArray array];
-  [rows addObject:listFooterGroup(localizedString(
+  [rows addObject:footerGroup(localizedString(
                       @"CONTROLCENTER_FOOTER", @"Choose the Control Center items that you want to protect from the list below"))];
   [rows addObject:[PSSpecifier emptyGroupSpecifier]];
 
@@ -65,9 +65,9 @@ NSArray *CCSettingsArray() {
     for (const lists::CCTableRow &item : lists::kClassicRows) {
       UIImage *glyph = imageIn(item.image, springBoard);
       if (glyph == nil) glyph = imageIn(item.image, controlCenterUI);
-      PSSpecifier *row = listSwitchRow(listString(item.title), self, @selector(setCCItemProtectEnabled:specifier:),
+      PSSpecifier *row = listSwitchRow(nsString(item.title), self, @selector(setCCItemProtectEnabled:specifier:),
                                        @selector(getCCItemProtectEnabledForSpecifier:));
-      [row setProperty:listString(item.identifier) forKey:@"id"];
+      [row setProperty:nsString(item.identifier) forKey:@"id"];
       if (glyph != nil) {
         UIImage *icon = resizedImage(glyph, CGSizeMake(lists::kClassicGlyphWidth, lists::kClassicGlyphHeight));
         if (icon != nil) [row setProperty:icon forKey:@"iconImage"];
@@ -87,8 +87,8 @@ NSArray *CCSettingsArray() {
        settingsIcons ? lists::kConnectivitySettingsIconRows : lists::kConnectivityGlyphRows) {
     UIImage *image = imageIn(item.image, bundleAt(item.bundle));
     if (!settingsIcons) image = [image imageWithRenderingMode:UIImageRenderingModeAlwaysTemplate];
-    PSSpecifier *row = [self newSpecifierWithName:listString(item.title)
-                                            andID:listString(item.identifier)
+    PSSpecifier *row = [self newSpecifierWithName:nsString(item.title)
+                                            andID:nsString(item.identifier)
                                          andImage:image];
     [rows addObject:row];
     [row release];
@@ -102,9 +102,9 @@ NSArray *CCSettingsArray() {
     if (name == NULL || lists::isSkippedModule(name)) continue;
     NSBundle *module = [NSBundle bundleWithPath:devicePath([NSString stringWithFormat:@"%@/%@", directory, entry])];
     NSDictionary *info = [module infoDictionary];
-    std::optional<std::string> title = lists::moduleTitle(name, listUtf8([info objectForKey:@"CFBundleDisplayName"]),
-                                                          listUtf8([info objectForKey:@"CFBundleName"]));
-    PSSpecifier *row = [self newSpecifierWithName:title ? listString(*title) : nil
+    std::optional<std::string> title = lists::moduleTitle(name, utf8String([info objectForKey:@"CFBundleDisplayName"]),
+                                                          utf8String([info objectForKey:@"CFBundleName"]));
+    PSSpecifier *row = [self newSpecifierWithName:title ? nsString(*title) : nil
                                             andID:[module bundleIdentifier]
                                          andImage:imageIn(lists::moduleImageName(name), module)];
     [rows addObject:row];
@@ -156,7 +156,7 @@ NSArray *CCSettingsArray() {
   if (_specifiers != nil) return _specifiers;
 
   NSMutableArray *rows = [NSMutableArray array];
-  [rows addObject:listFooterGroup(localizedString(
+  [rows addObject:footerGroup(localizedString(
                       @"CCSETTINGS_FOOTER", @"Choose the CCSettings items that you want to protect from the list below"))];
   [rows addObject:[PSSpecifier emptyGroupSpecifier]];
 
@@ -164,11 +164,11 @@ NSArray *CCSettingsArray() {
   for (NSString *identifier in CCSettingsArray()) {
     const char *utf8 = [identifier UTF8String];
     if (utf8 == NULL) continue;
-    PSSpecifier *row = listSwitchRow(listString(lists::ccSettingsTitle(utf8)), self,
+    PSSpecifier *row = listSwitchRow(nsString(lists::ccSettingsTitle(utf8)), self,
                                      @selector(setCCSettingsItemProtectEnabled:specifier:),
                                      @selector(getCCSettingsItemProtectEnabledForSpecifier:));
     [row setProperty:identifier forKey:@"id"];
-    NSString *icon = listString(lists::ccSettingsIconName(utf8));
+    NSString *icon = nsString(lists::ccSettingsIconName(utf8));
     if (icon != nil && [settings pathForResource:[NSString stringWithFormat:@"%@@2x", icon] ofType:@"png"] != nil) {
       UIImage *image = [UIImage imageNamed:icon inBundle:settings compatibleWithTraitCollection:nil];
       if (image != nil) [row setProperty:image forKey:@"iconImage"];

@@ -1,4 +1,5 @@
 #import "lists/TessarinFlipswitchController.h"
+#import "core/Strings.h"
 #import "core/Paths.h"
 #import "core/ProtectedListStore.h"
 #include <string>
@@ -8,11 +9,6 @@ namespace {
 
 NSString *const kToggleLibraryPath = @"/usr/lib/libflipswitch.dylib";
 NSString *const kTemplateBundlePath = @"/Library/Application Support/FlipControlCenter/TopShelf.bundle";
-
-std::string stdString(NSString *text) {
-  const char *bytes = [text isKindOfClass:[NSString class]] ? [text UTF8String] : NULL;
-  return bytes != NULL ? std::string(bytes) : std::string();
-}
 
 // The library's panel class, loading the library by path when the class is absent
 // (a missing library leaves it absent, quietly).

@@ -30,10 +30,10 @@ UIImage *newsstandImage() {
   if (_specifiers != nil) return _specifiers;
 
   NSMutableArray *rows = [NSMutableArray array];
-  [rows addObject:listFooterGroup(localizedString(@"FOLDERS_FOOTER", kFoldersFooter))];
+  [rows addObject:footerGroup(localizedString(@"FOLDERS_FOOTER", kFoldersFooter))];
   [rows addObject:[PSSpecifier emptyGroupSpecifier]];
 
-  id folders = [askSpringBoardForList(tessarin::message::kFolders) objectForKey:@"foldersRepresentation"];
+  id folders = [askSpringBoard(tessarin::message::kFolders) objectForKey:@"foldersRepresentation"];
   if ([folders isKindOfClass:[NSArray class]]) {
     for (NSDictionary *folder in (NSArray *)folders) {
       if (![folder isKindOfClass:[NSDictionary class]]) continue;
@@ -46,9 +46,9 @@ UIImage *newsstandImage() {
         if (value != nil) [row setProperty:value forKey:key];
       }
       std::optional<std::string> name =
-          lists::folderRowName(listUtf8([folder objectForKey:@"folderType"]),
-                               listUtf8([folder objectForKey:@"defaultDisplayName"]), listUtf8(displayName));
-      if (name) [row setName:listString(*name)];
+          lists::folderRowName(utf8String([folder objectForKey:@"folderType"]),
+                               utf8String([folder objectForKey:@"defaultDisplayName"]), utf8String(displayName));
+      if (name) [row setName:nsString(*name)];
 
       UIImage *picture = nil;
       if ([[folder objectForKey:@"folderType"] isEqual:@(lists::kNewsstandType)]) {
@@ -89,7 +89,7 @@ UIImage *newsstandImage() {
     const bool isString = [element isKindOfClass:[NSString class]];
     id listType = isString || ![element isKindOfClass:[NSDictionary class]] ? nil : [element objectForKey:@"listType"];
     UIImage *icon = nil;
-    switch (lists::folderElementKind(isString, listUtf8(listType))) {
+    switch (lists::folderElementKind(isString, utf8String(listType))) {
     case lists::FolderElement::Application:
       icon = [UIImage _applicationIconImageForBundleIdentifier:element
                                                         format:lists::kFolderIconFormat

@@ -1,4 +1,5 @@
 #import "lists/TessarinInCallProtectionListController.h"
+#import "core/Strings.h"
 #import "core/Hardware.h"
 #include <string>
 #include "core/Names.hpp"
@@ -8,11 +9,6 @@ namespace {
 
 NSString *const kLockScreenRow = @"SHOW_CALLS_AT_LOCKSCREEN_SYSTEM_SETTING";
 NSString *const kShowsInLockScreen = @"showsInLockScreen";
-
-std::string stdString(NSString *text) {
-  const char *bytes = [text isKindOfClass:[NSString class]] ? [text UTF8String] : NULL;
-  return bytes != NULL ? std::string(bytes) : std::string();
-}
 
 NSString *adapted(NSString *row, tessarin::lists::RowText property, NSString *text) {
   const std::string shown = tessarin::lists::faceIDText(stdString(row), property, stdString(text));

@@ -1,4 +1,6 @@
 #import "lists/TessarinProtectedSpecsController.h"
+#import "core/Specifiers.h"
+#import "core/Strings.h"
 #import "core/BundleLookup.h"
 #import "core/ProtectedListStore.h"
 #import "root/TessarinRootViews.h"
@@ -9,11 +11,6 @@
 
 namespace {
 
-std::string stdString(NSString *text) {
-  const char *bytes = [text isKindOfClass:[NSString class]] ? [text UTF8String] : NULL;
-  return bytes != NULL ? std::string(bytes) : std::string();
-}
-
 // The pane a row stands for: its "id", else its name.
 NSString *paneItem(PSSpecifier *row) {
   id identifier = [row propertyForKey:@"id"];
@@ -21,14 +18,6 @@ NSString *paneItem(PSSpecifier *row) {
   if ([identifier isKindOfClass:[NSString class]]) given = stdString(identifier);
   const std::string item = tessarin::lists::rowItem(given, stdString([row name]));
   return [NSString stringWithUTF8String:item.c_str()];
-}
-
-PSSpecifier *footerGroup(NSString *footer) {
-  if ([PSSpecifier respondsToSelector:@selector(groupSpecifierWithHeader:footer:)])
-    return [PSSpecifier groupSpecifierWithHeader:nil footer:footer];
-  PSSpecifier *group = [PSSpecifier groupSpecifierWithName:nil];
-  [group setProperty:footer forKey:@"footerText"];
-  return group;
 }
 
 // The rows of the Settings app's root list as they are now (nothing outside Settings).

@@ -1,4 +1,5 @@
 #import "logs/TessarinDebugLogsController.h"
+#import "core/Strings.h"
 #import "core/Alerts.h"
 #import "core/BundleLookup.h"
 #import "core/Endpoints.h"
@@ -21,16 +22,13 @@ namespace logs = tessarin::logs;
 // The rows are rebuilt this long after a deletion, once the row's removal has played.
 const double kReloadDelay = 0.4;
 
-NSString *string(std::string_view text) {
-  return [[[NSString alloc] initWithBytes:text.data() length:text.size() encoding:NSUTF8StringEncoding] autorelease];
-}
-
-std::string stdString(id text) {
+// A file name or path in the file system's own encoding (what the directory listing gives).
+std::string pathString(id text) {
   const char *bytes = [text isKindOfClass:[NSString class]] ? [(NSString *)text fileSystemRepresentation] : NULL;
   return bytes != NULL ? std::string(bytes) : std::string();
 }
 
-NSString *logDirectory(void) { return string(logs::kLogDirectory); }
+NSString *logDirectory(void) { return nsString(logs::kLogDirectory); }
 
 // The file-system path of a file of the log directory.
 NSString *logPath(NSString *file) { return devicePath([logDirectory() stringByAppendingPathComponent:file]); }
@@ -66,7 +64,7 @@ NSString *subtitleOfLog(const std::string &path) {
   }
   close(log);
   std::optional<std::string> subtitle = logs::logSubtitle(std::string_view(head, length));
-  return subtitle ? string(*subtitle) : nil;
+  return subtitle ? nsString(*subtitle) : nil;
 }
 
 }  // namespace
@@ -127,11 +125,11 @@ NSString *subtitleOfLog(const std::string &path) {
 
 - (BOOL)performDeletionActionForSpecifier:(PSSpecifier *)specifier {
   NSFileManager *files = [NSFileManager defaultManager];
-  NSString *link = [files destinationOfSymbolicLinkAtPath:logPath(string(logs::kLatestLinkName)) error:NULL];
+  NSString *link = [files destinationOfSymbolicLinkAtPath:logPath(nsString(logs::kLatestLinkName)) error:NULL];
   std::optional<std::string> linkFile;
-  if ([link isKindOfClass:[NSString class]]) linkFile = logs::latestLinkFile(stdString(link));
+  if ([link isKindOfClass:[NSString class]]) linkFile = logs::latestLinkFile(pathString(link));
 
-  const std::string rowFile = stdString([specifier propertyForKey:@"logFile"]);
+  const std::string rowFile = pathString([specifier propertyForKey:@"logFile"]);
   for (const std::string &file : logs::filesToDelete(rowFile, linkFile, directoryEntries())) {
     NSString *name = fileName(file);
     if (name != nil) [files removeItemAtPath:logPath(name) error:NULL];
@@ -200,7 +198,7 @@ NSString *subtitleOfLog(const std::string &path) {
     return;
   }
   composer.mailComposeDelegate = self;
-  [composer setSubject:[NSString stringWithFormat:@"%@ Crash", string(tessarin::logs::kProductName)]];
+  [composer setSubject:[NSString stringWithFormat:@"%@ Crash", nsString(tessarin::logs::kProductName)]];
   [composer setMessageBody:self.textView.text isHTML:NO];
   [composer setToRecipients:[NSArray arrayWithObject:kSupportAddress]];
   [self presentViewController:composer animated:YES completion:nil];

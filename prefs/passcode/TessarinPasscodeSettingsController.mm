@@ -1,4 +1,6 @@
 #import "passcode/TessarinPasscodeSettingsController.h"
+#import "core/Strings.h"
+#import "core/Specifiers.h"
 #import "passcode/PasscodePages.h"
 #import "passcode/TessarinPasscodeController.h"
 #import "passcode/TessarinRemovePasscodeController.h"
@@ -11,28 +13,6 @@
 namespace passcode = tessarin::passcode;
 
 namespace {
-
-NSString *stringOf(const std::string &s) {
-  NSString *value = [[[NSString alloc] initWithBytes:s.data() length:s.size() encoding:NSUTF8StringEncoding]
-      autorelease];
-  return value != nil ? value : @"";
-}
-
-NSString *stringOf(std::string_view s) {
-  NSString *value = [[[NSString alloc] initWithBytes:s.data() length:s.size() encoding:NSUTF8StringEncoding]
-      autorelease];
-  return value != nil ? value : @"";
-}
-
-// A group row with `footer` and no header, on systems with or without the
-// header-and-footer constructor.
-PSSpecifier *footerGroup(NSString *footer) {
-  if ([PSSpecifier respondsToSelector:@selector(groupSpecifierWithHeader:footer:)])
-    return [PSSpecifier groupSpecifierWithHeader:nil footer:footer];
-  PSSpecifier *group = [PSSpecifier groupSpecifierWithName:nil];
-  [group setProperty:footer forKey:@"footerText"];
-  return group;
-}
 
 }  // namespace
 
@@ -51,7 +31,7 @@ void resetPasscode(CFNotificationCenterRef center, void *observer, CFStringRef n
 - (NSMutableArray *)specifiers {
   if ([_specifiers count] != 0) return (NSMutableArray *)_specifiers;
 
-  NSArray *loaded = [self loadSpecifiersFromPlistName:stringOf(std::string_view(passcode::kSettingsPlistName)) target:self];
+  NSArray *loaded = [self loadSpecifiersFromPlistName:nsStringOrEmpty(std::string_view(passcode::kSettingsPlistName)) target:self];
   id stored = storedPreference(&tessarin::key::kPasscode);
 
   passcode::SettingsContext context;
@@ -61,15 +41,15 @@ void resetPasscode(CFNotificationCenterRef center, void *observer, CFStringRef n
 
   NSMutableArray *rows = [NSMutableArray array];
   passcode::SettingsFooter footer = settingsFooter(context);
-  NSString *footerText = stringOf(footer.text);
+  NSString *footerText = nsStringOrEmpty(footer.text);
   PSSpecifier *group = footerGroup(footerText);
   if (footer.hasLink) {
     [group setTarget:self];
-    [group setProperty:stringOf(std::string_view(passcode::kFooterCellClass)) forKey:@"footerCellClass"];
+    [group setProperty:nsStringOrEmpty(std::string_view(passcode::kFooterCellClass)) forKey:@"footerCellClass"];
     [group setProperty:NSStringFromRange(NSMakeRange(footer.linkLocation, footer.linkLength))
                 forKey:@"footerHyperlinkRange"];
     [group setProperty:footerText forKey:@"headerFooterHyperlinkButtonTitle"];
-    [group setProperty:stringOf(std::string_view(passcode::kFooterLinkAction)) forKey:@"footerHyperlinkAction"];
+    [group setProperty:nsStringOrEmpty(std::string_view(passcode::kFooterLinkAction)) forKey:@"footerHyperlinkAction"];
     id target = self;
     [group setProperty:[NSValue value:&target withObjCType:@encode(id)] forKey:@"footerHyperlinkTarget"];
   }
@@ -90,10 +70,10 @@ void resetPasscode(CFNotificationCenterRef center, void *observer, CFStringRef n
     PSSpecifier *row = [loaded objectAtIndex:kept.index];
     if (kept.action != passcode::RowAction::None) {
       [row setTarget:self];
-      [row setButtonAction:NSSelectorFromString(stringOf(actionSelector(kept.action)))];
+      [row setButtonAction:NSSelectorFromString(nsStringOrEmpty(actionSelector(kept.action)))];
     }
     if (kept.renameForFaceID) {
-      NSString *name = stringOf(std::string_view(passcode::kUseOnlyFaceIDName));
+      NSString *name = nsStringOrEmpty(std::string_view(passcode::kUseOnlyFaceIDName));
       [row setProperty:name forKey:@"label"];
       [row setProperty:name forKey:@"name"];
       [row setName:name];

@@ -1,4 +1,7 @@
 #import "root/TessarinPrefsListController.h"
+#import "core/Strings.h"
+#import "core/Specifiers.h"
+#import "core/SpringBoardRequests.h"
 #import "core/Alerts.h"
 #import "core/BundleLookup.h"
 #import "core/Endpoints.h"
@@ -26,26 +29,7 @@ namespace root = tessarin::root;
 // The root page that last built its rows; not retained, cleared when it goes away.
 TessarinPrefsListController *sharedRootPage = nil;
 
-NSString *string(std::string_view text) {
-  return [[[NSString alloc] initWithBytes:text.data() length:text.size() encoding:NSUTF8StringEncoding] autorelease];
-}
-
-NSString *string(const std::string &text) { return string(std::string_view(text)); }
-
-std::string stdString(NSString *text) {
-  const char *bytes = [text UTF8String];
-  return bytes != NULL ? std::string(bytes) : std::string();
-}
-
 NSDictionary *dictionaryOrNil(id object) { return [object isKindOfClass:[NSDictionary class]] ? object : nil; }
-
-// A request to SpringBoard through the product's centre; nil without a (dictionary) reply.
-NSDictionary *askSpringBoard(const char *message) {
-  Class centerClass = NSClassFromString(@"CPDistributedMessagingCenter");
-  CPDistributedMessagingCenter *center = [centerClass centerNamed:@(tessarin::kCenterName)];
-  if (center == nil) return nil;
-  return dictionaryOrNil([center sendMessageAndReceiveReplyName:@(message) userInfo:nil]);
-}
 
 std::optional<long long> integerEntry(NSDictionary *reply, NSString *key) {
   id value = [reply objectForKey:key];
@@ -80,12 +64,12 @@ std::optional<root::PasscodeCharacteristics> devicePasscodeCharacteristics(void)
   return result;
 }
 
-bool classExists(std::string_view name) { return NSClassFromString(string(name)) != Nil; }
+bool classExists(std::string_view name) { return NSClassFromString(nsString(name)) != Nil; }
 
 root::FileProbe deviceFileProbe(void) {
   root::FileProbe probe;
-  probe.exists = [](std::string_view path) { return deviceFileExists(string(path)) ? true : false; };
-  probe.jailRoot = [](std::string_view path) { return stdString(jbroot(string(path))); };
+  probe.exists = [](std::string_view path) { return deviceFileExists(nsString(path)) ? true : false; };
+  probe.jailRoot = [](std::string_view path) { return stdString(jbroot(nsString(path))); };
   return probe;
 }
 
@@ -123,19 +107,8 @@ BOOL appsContain(id apps, NSString *bundleIdentifier) {
   return NO;
 }
 
-PSSpecifier *groupWithFooter(NSString *footer) {
-  PSSpecifier *group = nil;
-  if ([PSSpecifier respondsToSelector:@selector(groupSpecifierWithHeader:footer:)]) {
-    group = [PSSpecifier groupSpecifierWithHeader:nil footer:footer];
-  } else {
-    group = [PSSpecifier groupSpecifierWithName:nil];
-    [group setProperty:footer forKey:@"footerText"];
-  }
-  return group;
-}
-
 void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
-  NSString *text = string(identifier);
+  NSString *text = nsString(identifier);
   [specifier setIdentifier:text];
   [specifier setProperty:text forKey:@"id"];
 }
@@ -182,7 +155,7 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
   const bool supported = tessarin::isSupportedSystem(stdString(systemVersionString()));
   if (std::optional<std::string_view> footer = root::singleGroupFooter(cachedLibraryVersion, supported)) {
     PSSpecifier *group = [PSSpecifier groupSpecifierWithName:nil];
-    [group setProperty:string(*footer) forKey:@"footerText"];
+    [group setProperty:nsString(*footer) forKey:@"footerText"];
     _specifiers = [[NSArray alloc] initWithObjects:group, nil];
     return _specifiers;
   }
@@ -191,7 +164,7 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
   facts.biometricsSet = root::biometricsSet(integerEntry(askSpringBoard(tessarin::message::kBiometricsEnrolled), @"idsn"));
   facts.productPasscodeSet = productPasscodeStored();
 
-  NSArray *loaded = [self loadSpecifiersFromPlistName:string(root::kRowsPlistName) target:self];
+  NSArray *loaded = [self loadSpecifiersFromPlistName:nsString(root::kRowsPlistName) target:self];
   if (![loaded isKindOfClass:[NSArray class]]) loaded = [NSArray array];
   NSBundle *bundle = tessarinBundle();
   std::vector<std::string> loadedIds;
@@ -236,7 +209,7 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
         setIdentifier(row, root::kTrustedWarningGroupId);
         break;
       case root::PlannedRowKind::Warning:
-        row = [PSSpecifier preferenceSpecifierNamed:string(plan.warning->title)
+        row = [PSSpecifier preferenceSpecifierNamed:nsString(plan.warning->title)
                                              target:self
                                                 set:NULL
                                                 get:NULL
@@ -253,19 +226,19 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
         break;
       case root::PlannedRowKind::DeviceAuth: {
         const root::DeviceAuthRow &auth = *plan.deviceAuth;
-        Class detail = auth.detailClass.empty() ? Nil : NSClassFromString(string(auth.detailClass));
-        row = [PSSpecifier preferenceSpecifierNamed:string(auth.name)
+        Class detail = auth.detailClass.empty() ? Nil : NSClassFromString(nsString(auth.detailClass));
+        row = [PSSpecifier preferenceSpecifierNamed:nsString(auth.name)
                                              target:self
                                                 set:NULL
                                                 get:NULL
                                              detail:detail
                                                cell:(PSCellType)root::kDeviceAuthCellType
                                                edit:Nil];
-        if (!auth.loadAction.empty()) [row setControllerLoadAction:NSSelectorFromString(string(auth.loadAction))];
+        if (!auth.loadAction.empty()) [row setControllerLoadAction:NSSelectorFromString(nsString(auth.loadAction))];
         break;
       }
       case root::PlannedRowKind::Credits:
-        row = [PSSpecifier preferenceSpecifierNamed:string(root::kCreditsText)
+        row = [PSSpecifier preferenceSpecifierNamed:nsString(root::kCreditsText)
                                              target:self
                                                 set:NULL
                                                 get:NULL
@@ -276,13 +249,13 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
         [row setProperty:@(root::kCreditsAlignment) forKey:@"alignment"];
         break;
       case root::PlannedRowKind::MoreAppsGroup:
-        row = groupWithFooter(string(root::kMoreAppsFooter));
+        row = footerGroup(nsString(root::kMoreAppsFooter));
         [row setTarget:self];
-        [row setButtonAction:NSSelectorFromString(string(root::kMoreAppsAction))];
-        [row setProperty:string(root::kMoreAppsFooterCellClass) forKey:@"footerCellClass"];
+        [row setButtonAction:NSSelectorFromString(nsString(root::kMoreAppsAction))];
+        [row setProperty:nsString(root::kMoreAppsFooterCellClass) forKey:@"footerCellClass"];
         [row setProperty:@(root::kMoreAppsHeight) forKey:@"height"];
         // The footer view shows this text.
-        [row setProperty:string(root::kMoreAppsFooter) forKey:string(tessarin::root::label_view::kTextProperty)];
+        [row setProperty:nsString(root::kMoreAppsFooter) forKey:nsString(tessarin::root::label_view::kTextProperty)];
         break;
     }
     if (row == nil) continue;
@@ -299,7 +272,7 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
 
 - (void)setPreferenceValue:(id)value specifier:(PSSpecifier *)specifier {
   [super setPreferenceValue:value specifier:specifier];
-  if ([[specifier identifier] isEqualToString:string(root::kKeepSessionId)]) [self reloadSpecifiers];
+  if ([[specifier identifier] isEqualToString:nsString(root::kKeepSessionId)]) [self reloadSpecifiers];
 }
 
 #pragma mark - View
@@ -311,8 +284,8 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
   NSDictionary *appsReply = askSpringBoard(tessarin::message::kApplications);
   [self setInstalledApps:[appsReply objectForKey:@"apps"]];
 
-  NSString *noPasscodeSet = localizedString(string(root::kNoPasscodeSetKey), string(root::kNoPasscodeSetDefault));
-  NSString *no = localizedString(string(root::kNoKey), string(root::kNoDefault));
+  NSString *noPasscodeSet = localizedString(nsString(root::kNoPasscodeSetKey), nsString(root::kNoPasscodeSetDefault));
+  NSString *no = localizedString(nsString(root::kNoKey), nsString(root::kNoDefault));
   const std::string noPasscodeSetText = stdString(noPasscodeSet);
   const std::string noText = stdString(no);
   root::FirstRunFacts facts;
@@ -338,7 +311,7 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
   [label setTextAlignment:(NSTextAlignment)root::header::kAlignment];
   [label setTextColor:[UIColor lightGrayColor]];
   const std::string version = root::versionText(cachedLibraryVersion);
-  if (!version.empty()) [label setText:string(version)];
+  if (!version.empty()) [label setText:nsString(version)];
   [headerView addSubview:label];
   [self setHeaderView:headerView];
   [self setVersionLabel:label];
@@ -400,10 +373,10 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
     }
     UIAlertActionStyle style =
         button.style == root::ActionStyle::Cancel ? UIAlertActionStyleCancel : UIAlertActionStyleDefault;
-    [actions addObject:[UIAlertAction actionWithTitle:string(button.title) style:style handler:handler]];
+    [actions addObject:[UIAlertAction actionWithTitle:nsString(button.title) style:style handler:handler]];
   }
   showAlertWithTitleAndMessageAndAlertActionsFromViewControllerWithStyle(
-      string(alert.title), string(alert.message), actions, presenter, UIAlertControllerStyleAlert);
+      nsString(alert.title), nsString(alert.message), actions, presenter, UIAlertControllerStyleAlert);
 }
 
 - (void)performEffect:(root::Effect)effect {
@@ -434,7 +407,7 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
 }
 
 - (void)pushPasscodeSettings {
-  Class pageClass = NSClassFromString(string(root::kPasscodeSettingsControllerClass));
+  Class pageClass = NSClassFromString(nsString(root::kPasscodeSettingsControllerClass));
   UINavigationController *root = settingsRootController();
   if (pageClass == Nil || root == nil) return;
   UIViewController *page = [[pageClass alloc] init];
@@ -443,7 +416,7 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
 }
 
 - (void)presentUserPasscodeControllerNamed:(std::string_view)className {
-  Class pageClass = NSClassFromString(string(className));
+  Class pageClass = NSClassFromString(nsString(className));
   if (pageClass == Nil) return;
   UIViewController *page = [[pageClass alloc] init];
   UINavigationController *navigation = [[UINavigationController alloc] init];
@@ -460,7 +433,7 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
   facts.iOS14 = systemVersion.iOS14;
   facts.iOS16 = systemVersion.iOS16;
   facts.deviceCornerRadius = deviceCornerRadius();
-  facts.loaderAppInstalled = appsContain([self installedApps], string(root::kLoaderAppId));
+  facts.loaderAppInstalled = appsContain([self installedApps], nsString(root::kLoaderAppId));
   const root::SetupDecision decision = setupDecision(facts, origin);
 
   if (!decision.userPasscodeControllerClass.empty()) {
@@ -470,7 +443,7 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
 
   UIViewController *systemPage = nil;
   for (std::string_view className : decision.systemPageClasses) {
-    Class pageClass = NSClassFromString(string(className));
+    Class pageClass = NSClassFromString(nsString(className));
     if (pageClass == Nil || ![pageClass instancesRespondToSelector:@selector(initForContentSize:)]) continue;
     systemPage = [[[pageClass alloc] initForContentSize:CGSizeZero] autorelease];
     if (systemPage != nil) break;

@@ -1,4 +1,5 @@
 #import "wifi/TessarinWiFiController.h"
+#import "core/Strings.h"
 #import "core/Alerts.h"
 #import "core/BundleLookup.h"
 #import "core/PlistBridge.h"
@@ -18,15 +19,6 @@ namespace wifi = tessarin::wifi;
 
 // Only taps on the left of the screen copy the password.
 const CGFloat kCopyAreaWidth = 200;
-
-NSString *string(const std::string &text) {
-  return [[[NSString alloc] initWithBytes:text.data() length:text.size() encoding:NSUTF8StringEncoding] autorelease];
-}
-
-std::string stdString(NSString *text) {
-  const char *bytes = [text isKindOfClass:[NSString class]] ? [text UTF8String] : NULL;
-  return bytes != NULL ? std::string(bytes) : std::string();
-}
 
 // The stored trusted list as a value; nothing when absent or not a property list.
 std::optional<tessarin::plist::Value> storedTrustedList(void) {
@@ -71,15 +63,15 @@ id knownNetworkRecords(void) {
 
   std::optional<tessarin::plist::Value> records = plistValueFromObject(knownNetworkRecords());
   for (const wifi::NetworkRow &network : wifi::networkRows(records ? &*records : nullptr)) {
-    PSSpecifier *row = [PSSpecifier preferenceSpecifierNamed:string(network.ssid)
+    PSSpecifier *row = [PSSpecifier preferenceSpecifierNamed:nsString(network.ssid)
                                                       target:self
                                                          set:@selector(setNetworkProtected:specifier:)
                                                          get:@selector(getNetworkProtectedForSpecifier:)
                                                       detail:Nil
                                                         cell:PSSwitchCell
                                                         edit:Nil];
-    [row setProperty:string(network.bssid) forKey:@"bssid"];
-    if (network.password) [row setProperty:string(*network.password) forKey:@"password"];
+    [row setProperty:nsString(network.bssid) forKey:@"bssid"];
+    if (network.password) [row setProperty:nsString(*network.password) forKey:@"password"];
     [row setProperty:[TessarinWifiInfoCell class] forKey:@"cellClass"];
     [rows addObject:row];
   }
