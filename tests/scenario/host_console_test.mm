@@ -1,28 +1,14 @@
 // The Settings host's command interpreter driven in-process: the real bundle in the
 // simulated Settings app, a simulated SpringBoard answering, commands in and screens out.
-#include <stdio.h>
 
 #include <string>
 #include <vector>
 
-#import "BundleFixture.h"
+#import "HostConsoleFixture.h"
 #import "SettingsConsole.h"
 #import "SettingsHost.h"
 
 namespace {
-
-bool Contains(const std::string &text, const std::string &part) { return text.find(part) != std::string::npos; }
-
-// The number a screen gives the row or link whose line holds `label` ("[7] Reset all settings"), or 0.
-unsigned NumberOf(const std::string &screen, const std::string &label) {
-  size_t at = screen.find(label);
-  if (at == std::string::npos) return 0;
-  size_t lineStart = screen.rfind('\n', at);
-  lineStart = lineStart == std::string::npos ? 0 : lineStart + 1;
-  unsigned number = 0;
-  if (sscanf(screen.c_str() + lineStart, " [%u]", &number) != 1) return 0;
-  return number;
-}
 
 std::string HostScript(const char *name) {
   std::string here = __FILE__;
@@ -31,39 +17,7 @@ std::string HostScript(const char *name) {
 
 }  // namespace
 
-class HostConsoleTest : public BundleTest {
- protected:
-  void TearDown() override {
-    [console_ release];
-    console_ = nil;
-    BundleTest::TearDown();
-  }
-
-  // A device from `profile`, the Settings app built around the bundle, the product's page open.
-  void OpenSettings(const char *profile = SIM_DEFAULT_PROFILE) {
-    StartDevice(profile);
-    ASSERT_TRUE(SettingsHostBuildSettingsApp(SettingsHostLoadPreferenceBundle()));
-    console_ = [[SettingsConsole alloc] init];
-    ASSERT_TRUE([console_ openEntryNamed:@"Tessarin"]);
-    screen_ = [[console_ render] UTF8String];
-  }
-
-  std::string Run(const std::string &command) {
-    NSString *output = [console_ perform:[NSString stringWithUTF8String:command.c_str()]];
-    std::string text = [output UTF8String];
-    if (Contains(text, "====")) screen_ = text;
-    return text;
-  }
-
-  std::string Tap(const std::string &label) {
-    unsigned number = NumberOf(screen_, label);
-    EXPECT_GT(number, 0u) << label << " is not on the screen:\n" << screen_;
-    return Run("tap " + std::to_string(number));
-  }
-
-  SettingsConsole *console_ = nil;
-  std::string screen_;
-};
+class HostConsoleTest : public HostConsoleFixture {};
 
 TEST_F(HostConsoleTest, TheDefaultProfileOpensOnTheRootPageWithItsRows) {
   OpenSettings();

@@ -5,64 +5,18 @@
 
 #include <string>
 
-#import "BundleFixture.h"
+#import "HostConsoleFixture.h"
 #import "SettingsConsole.h"
 #import "SettingsHost.h"
 
-namespace {
-
-bool Contains(const std::string &text, const std::string &part) { return text.find(part) != std::string::npos; }
-
-// The number the screen gives the first row whose line holds `label`, or 0.
-unsigned NumberOf(const std::string &screen, const std::string &label) {
-    size_t at = screen.find(label);
-    if (at == std::string::npos) return 0;
-    size_t lineStart = screen.rfind('\n', at);
-    lineStart = lineStart == std::string::npos ? 0 : lineStart + 1;
-    unsigned number = 0;
-    if (sscanf(screen.c_str() + lineStart, " [%u]", &number) != 1) return 0;
-    return number;
-}
-
-// The line of `text` that holds `part`.
-std::string LineWith(const std::string &text, const std::string &part) {
-    size_t at = text.find(part);
-    if (at == std::string::npos) return "";
-    size_t start = text.rfind('\n', at);
-    start = start == std::string::npos ? 0 : start + 1;
-    return text.substr(start, text.find('\n', at) - start);
-}
-
-}  // namespace
-
-class HostListPagesTest : public BundleTest {
+class HostListPagesTest : public HostConsoleFixture {
 protected:
-    void TearDown() override {
-        [console_ release];
-        console_ = nil;
-        BundleTest::TearDown();
-    }
-
+    // The product's page open, then its row titled `page`.
     void Open(const char *profile, const char *page) {
-        StartDevice(profile);
-        ASSERT_TRUE(SettingsHostBuildSettingsApp(SettingsHostLoadPreferenceBundle()));
-        console_ = [[SettingsConsole alloc] init];
-        ASSERT_TRUE([console_ openEntryNamed:@"Tessarin"]);
-        screen_ = [[console_ render] UTF8String];
-        unsigned number = NumberOf(screen_, page);
-        ASSERT_GT(number, 0u) << screen_;
-        Run("tap " + std::to_string(number));
+        OpenSettings(profile);
+        Tap(page);
         ASSERT_TRUE(Contains(screen_, std::string("Tessarin > ") + page)) << screen_;
     }
-
-    std::string Run(const std::string &command) {
-        std::string text = [[console_ perform:@(command.c_str())] UTF8String];
-        if (Contains(text, "====")) screen_ = text;
-        return text;
-    }
-
-    SettingsConsole *console_ = nil;
-    std::string screen_;
 };
 
 TEST_F(HostListPagesTest, FoldersShowTheirPicturesAndSameNamedOnesSwitchTogether) {
