@@ -15,17 +15,12 @@
 #include "core/ProtectedList.hpp"
 #include "core/plist/BinaryPlist.hpp"
 #include "core_test_print.hpp"
+#include "core_test_values.hpp"
 
 using namespace tessarin;
 using plist::Value;
 
 namespace {
-Value strings(std::initializer_list<const char *> items) {
-    Value a = Value::array();
-    for (const char *s : items) a.append(Value::string(s));
-    return a;
-}
-std::vector<std::string> list(std::initializer_list<const char *> items) { return {items.begin(), items.end()}; }
 
 struct ResourcePlist {
     std::string name;

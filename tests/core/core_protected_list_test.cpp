@@ -6,20 +6,13 @@
 
 #include "core/ProtectedList.hpp"
 #include "core_test_print.hpp"
+#include "core_test_values.hpp"
 
 using tessarin::ProtectedListEdit;
 using tessarin::protectedListContains;
 using tessarin::protectedListEdit;
 using tessarin::plist::Value;
 
-namespace {
-Value strings(std::initializer_list<const char *> items) {
-    Value a = Value::array();
-    for (const char *s : items) a.append(Value::string(s));
-    return a;
-}
-std::vector<std::string> list(std::initializer_list<const char *> items) { return {items.begin(), items.end()}; }
-}  // namespace
 
 // One switch of a list page: whether it writes, and what.
 TEST(ProtectedListEdit, StoresOnlyWhatTheSwitchChanges) {

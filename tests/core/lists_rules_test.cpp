@@ -12,18 +12,13 @@
 #include "lists/ApplicationScan.hpp"
 #include "lists/ControlCenterItems.hpp"
 #include "lists/FolderRows.hpp"
+#include "core_test_values.hpp"
 
 using namespace tessarin;
 using namespace tessarin::lists;
 using plist::Value;
 
 namespace {
-Value strings(std::initializer_list<const char *> items) {
-    Value a = Value::array();
-    for (const char *s : items) a.append(Value::string(s));
-    return a;
-}
-std::vector<std::string> list(std::initializer_list<const char *> items) { return {items.begin(), items.end()}; }
 std::optional<std::string> some(const char *s) { return s ? std::optional<std::string>(s) : std::nullopt; }
 const std::nullopt_t none = std::nullopt;
 }  // namespace
