@@ -13,7 +13,6 @@ using tessarin::protectedListContains;
 using tessarin::protectedListEdit;
 using tessarin::plist::Value;
 
-
 // One switch of a list page: whether it writes, and what.
 TEST(ProtectedListEdit, StoresOnlyWhatTheSwitchChanges) {
     struct Case {
