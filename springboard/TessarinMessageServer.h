@@ -9,6 +9,9 @@
 // messages it is ignored.
 typedef NSDictionary *(^TessarinMessageHandler)(NSString *identifier, NSDictionary *userInfo);
 
+// The reply as the keyed archive written to the reply file.
+NSData *archivedReply(NSDictionary *reply);
+
 @interface TessarinMessageServer : NSObject {
   TessarinMessageHandler _handler;
   int _token;

@@ -4,11 +4,24 @@
 #include <string>
 #include "core/MessageCode.hpp"
 #include "core/Names.hpp"
+#include "core/plist/KeyedArchive.hpp"
 #import "core/Paths.h"
+#import "core/PlistBridge.h"
 
 static void transportSignalled(CFNotificationCenterRef center, void *observer, CFStringRef name, const void *object,
                                CFDictionaryRef userInfo) {
   [(TessarinMessageServer *)observer handleSignal];
+}
+
+// GNUstep's binary property-list writer takes quadratic time (seconds for a few thousand
+// strings); the core writes the archive iOS's NSKeyedArchiver writes, in linear time.
+// A reply of other classes goes through the archiver.
+NSData *archivedReply(NSDictionary *reply) {
+  if (std::optional<tessarin::plist::Value> value = plistValueFromObject(reply)) {
+    std::vector<uint8_t> archive = tessarin::plist::encodeKeyedArchive(*value);
+    if (!archive.empty()) return [NSData dataWithBytes:archive.data() length:archive.size()];
+  }
+  return [NSKeyedArchiver archivedDataWithRootObject:reply];
 }
 
 @implementation TessarinMessageServer
@@ -64,7 +77,7 @@ static void transportSignalled(CFNotificationCenterRef center, void *observer, C
 
   NSDictionary *reply = _handler(name, userInfo);
   if (reply != nil && tessarin::isRequestReply(identifier)) {
-    NSData *archive = [NSKeyedArchiver archivedDataWithRootObject:reply];
+    NSData *archive = archivedReply(reply);
     // Atomically, so the bundle's busy reader never sees half a reply.
     [archive writeToFile:devicePath(@(tessarin::replyFilePath(identifier).c_str())) atomically:YES];
   }

@@ -22,14 +22,14 @@ static void selfCheckArrived(CFNotificationCenterRef center, void *observer, CFS
 }
 
 // Ready means ready to answer at once: a notification has come round through this
-// process's own delivery path, and the archiver has made its first reply.
+// process's own delivery path, and the first reply has been archived.
 static void warmUp(SimulatedSpringBoard *springBoard) {
   static BOOL arrived = NO;
   CFStringRef name = CFSTR("net.corvane.tessarin.simulator.selfcheck");
   CFNotificationCenterAddObserver(CFNotificationCenterGetDarwinNotifyCenter(), &arrived, selfCheckArrived, name, NULL,
                                   CFNotificationSuspensionBehaviorDeliverImmediately);
   notify_post("net.corvane.tessarin.simulator.selfcheck");
-  [NSKeyedArchiver archivedDataWithRootObject:[springBoard replyToMessage:@"appL" userInfo:nil]];
+  archivedReply([springBoard replyToMessage:@"appL" userInfo:nil]);
   if (!SimRunLoopRunUntil(^BOOL { return arrived; }, 10.0)) {
     fprintf(stderr, "tessarin-springboard: its own notification did not come round in 10 s\n");
   }
