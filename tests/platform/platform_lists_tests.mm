@@ -54,6 +54,59 @@ TEST_F(ListsStandInTest, InstalledApplicationsAreBundlesWithTheirStrings) {
     EXPECT_EQ(SimInstallApplication(NULL, @{@"source" : @"Elsewhere", @"bundle" : @"X.app"}), nil);
 }
 
+NSString *InstallApp(NSString *source, NSString *bundle, NSDictionary *info, NSDictionary *strings) {
+    NSMutableDictionary *entry = [NSMutableDictionary dictionaryWithObjectsAndKeys:source, @"source", bundle, @"bundle",
+                                                                                   info, @"info", nil];
+    if (strings) [entry setObject:strings forKey:@"strings"];
+    return SimInstallApplication(NULL, entry);
+}
+
+// Application bundles read as iOS reads them: one per path, even for an application
+// installed twice; string tables from the top, the user's languages, then the
+// development region.
+TEST_F(ListsStandInTest, ApplicationBundlesAreFlatAndOnePerPath) {
+    NSString *profile = [NSString stringWithFormat:@"%@/lists-languages-%d.plist", NSTemporaryDirectory(), getpid()];
+    UseDevice();
+    NSMutableDictionary *facts = [NSMutableDictionary dictionaryWithDictionary:SimDeviceProfile()];
+    [facts setObject:@[ @"de", @"fr" ] forKey:@"languages"];
+    ASSERT_TRUE([facts writeToFile:profile atomically:YES]);
+    UseDevice([profile fileSystemRepresentation]);
+    [[NSFileManager defaultManager] removeItemAtPath:profile error:NULL];
+
+    NSDictionary *same = @{@"CFBundleIdentifier" : @"com.test.twice"};
+    NSBundle *first = [NSBundle bundleWithPath:HostFile(Root(), InstallApp(@"Applications", @"Twice.app", same, nil))];
+    NSBundle *second = [NSBundle bundleWithPath:HostFile(Root(), InstallApp(@"Binpack", @"Twice.app", same, nil))];
+    ASSERT_NE(first, nil);
+    ASSERT_NE(second, nil);
+    EXPECT_NE(first, second);
+    EXPECT_TRUE([[second bundlePath] hasSuffix:@"/private/var/binpack/Applications/Twice.app"]);
+    EXPECT_EQ([NSBundle bundleWithPath:[[first bundlePath] stringByAppendingString:@"/"]], first);
+    EXPECT_EQ([NSBundle bundleWithPath:HostFile(Root(), @"/Applications/Missing.app")], nil);
+
+    struct Case {
+        NSDictionary *strings;
+        NSString *region, *topTable, *expected;
+    } cases[] = {
+        {@{@"en" : @{@"K" : @"en"}, @"fr" : @{@"K" : @"fr"}, @"de" : @{@"K" : @"de"}}, nil, nil, @"de"},
+        {@{@"en" : @{@"K" : @"en"}, @"fr" : @{@"K" : @"fr"}}, nil, nil, @"fr"},
+        {@{@"en" : @{@"K" : @"en"}, @"it" : @{@"K" : @"it"}}, @"it", nil, @"it"},
+        {@{@"en" : @{@"K" : @"en"}}, nil, nil, @"en"},
+        {@{@"it" : @{@"K" : @"it"}}, nil, nil, @"value"},
+        {@{@"fr" : @{@"K" : @"fr"}}, nil, @"\"K\" = \"top\";", @"top"},
+        {@{@"fr" : @{@"Other" : @"fr"}}, nil, nil, @"value"},
+    };
+    int n = 0;
+    for (const Case &c : cases) {
+        NSMutableDictionary *info = [NSMutableDictionary dictionaryWithObject:@"com.test.strings" forKey:@"CFBundleIdentifier"];
+        if (c.region) [info setObject:c.region forKey:@"CFBundleDevelopmentRegion"];
+        NSString *path = HostFile(Root(), InstallApp(@"Applications", [NSString stringWithFormat:@"S%d.app", n++], info, c.strings));
+        if (c.topTable) [c.topTable writeToFile:[path stringByAppendingPathComponent:@"InfoPlist.strings"] atomically:YES];
+        NSBundle *bundle = [NSBundle bundleWithPath:path];
+        EXPECT_NSEQ([bundle localizedStringForKey:@"K" value:@"value" table:@"InfoPlist"], c.expected) << n;
+        EXPECT_NSEQ([bundle localizedStringForKey:@"Absent" value:@"" table:@"InfoPlist"], @"Absent") << n;
+    }
+}
+
 // One device per test: a bundle made again at the same path in one process may be read
 // from GNUstep's caches of the first.
 void ExpectSystemResources(const std::string &root, bool newsstand, bool settingsIcons, bool quickNote) {

@@ -8,11 +8,8 @@
 
 namespace {
 
-NSComparisonResult compareWithDescriptor(NSSortDescriptor *descriptor, id a, id b)
+NSComparisonResult compareValues(NSSortDescriptor *descriptor, id va, id vb)
 {
-    NSString *key = [descriptor key];
-    id va = key ? [a valueForKeyPath:key] : a;
-    id vb = key ? [b valueForKeyPath:key] : b;
     NSComparisonResult result;
     if (va == nil && vb == nil) {
         result = NSOrderedSame;
@@ -31,37 +28,54 @@ NSComparisonResult compareWithDescriptor(NSSortDescriptor *descriptor, id a, id 
     return result;
 }
 
-NSComparisonResult compareWithDescriptors(NSArray *descriptors, id a, id b)
+id sortValue(NSSortDescriptor *descriptor, id item)
 {
-    for (NSSortDescriptor *d in descriptors) {
-        NSComparisonResult r = compareWithDescriptor(d, a, b);
-        if (r != NSOrderedSame) return r;
-    }
-    return NSOrderedSame;
+    NSString *key = [descriptor key];
+    return key ? [item valueForKeyPath:key] : item;
 }
 
 NSComparisonResult simCompareObject(id self, SEL _cmd, id a, id b)
 {
-    return compareWithDescriptor(self, a, b);
+    return compareValues(self, sortValue(self, a), sortValue(self, b));
 }
 
-// A stable merge sort of the array's elements.
+// A stable merge sort of the array's elements. Each element's value for each descriptor is
+// read once, before sorting, rather than at every comparison.
 void stableSort(std::vector<id> &items, NSArray *descriptors)
 {
-    std::vector<id> scratch(items.size());
-    for (size_t width = 1; width < items.size(); width *= 2) {
-        for (size_t lo = 0; lo < items.size(); lo += 2 * width) {
-            size_t mid = std::min(lo + width, items.size()), hi = std::min(lo + 2 * width, items.size());
-            size_t i = lo, j = mid, k = lo;
-            while (i < mid && j < hi)
-                scratch[k++] = compareWithDescriptors(descriptors, items[j], items[i]) == NSOrderedAscending
-                                   ? items[j++]
-                                   : items[i++];
-            while (i < mid) scratch[k++] = items[i++];
-            while (j < hi) scratch[k++] = items[j++];
-        }
-        items.swap(scratch);
+    const size_t count = items.size();
+    std::vector<NSSortDescriptor *> sorts;
+    std::vector<std::vector<id>> values;
+    for (NSSortDescriptor *d in descriptors) {
+        sorts.push_back(d);
+        std::vector<id> column(count);
+        for (size_t i = 0; i < count; i++) column[i] = [sortValue(d, items[i]) retain];
+        values.push_back(std::move(column));
     }
+    auto before = [&](size_t a, size_t b) {
+        for (size_t d = 0; d < sorts.size(); d++) {
+            NSComparisonResult r = compareValues(sorts[d], values[d][a], values[d][b]);
+            if (r != NSOrderedSame) return r == NSOrderedAscending;
+        }
+        return false;
+    };
+    std::vector<size_t> order(count), scratch(count);
+    for (size_t i = 0; i < count; i++) order[i] = i;
+    for (size_t width = 1; width < count; width *= 2) {
+        for (size_t lo = 0; lo < count; lo += 2 * width) {
+            size_t mid = std::min(lo + width, count), hi = std::min(lo + 2 * width, count);
+            size_t i = lo, j = mid, k = lo;
+            while (i < mid && j < hi) scratch[k++] = before(order[j], order[i]) ? order[j++] : order[i++];
+            while (i < mid) scratch[k++] = order[i++];
+            while (j < hi) scratch[k++] = order[j++];
+        }
+        order.swap(scratch);
+    }
+    std::vector<id> sorted(count);
+    for (size_t i = 0; i < count; i++) sorted[i] = items[order[i]];
+    items.swap(sorted);
+    for (const std::vector<id> &column : values)
+        for (id value : column) [value release];
 }
 
 void simSortUsingDescriptors(NSMutableArray *self, SEL _cmd, NSArray *descriptors)

@@ -1,0 +1,323 @@
+// Application bundles on the simulated device, opened with +[NSBundle bundleWithPath:] and
+// read the way iOS reads them:
+// - flat: the Info.plist and the .lproj folders sit at the top of the bundle (GNUstep looks
+//   for Info-gnustep.plist and a Resources folder first);
+// - one bundle per path (GNUstep hands out the bundle of an identifier it has already met,
+//   even when it was found at another path, so an application installed twice reads as one);
+// - the Info.plist read once, when first asked for, and nothing else at creation;
+// - resources and string tables searched globally first, then in the user's languages, then
+//   in the development region.
+// Bundles outside the device, or not ending in ".app", stay GNUstep's.
+#import <Foundation/Foundation.h>
+#include <Simulator/Simulator.h>
+#include <objc/runtime.h>
+#include <sys/stat.h>
+
+#include <algorithm>
+#include <cstring>
+#include <map>
+#include <mutex>
+#include <string>
+#include <vector>
+
+#import "Simulator/SimInternal.h"
+
+@interface SimApplicationBundle : NSBundle {
+    NSString *_devicePath;
+    NSDictionary *_info;
+    NSMutableDictionary *_tables;
+}
+@property(nonatomic, copy) NSString *devicePath;
+@property(nonatomic, retain) NSDictionary *info;
+@property(nonatomic, retain) NSMutableDictionary *tables;
+- (instancetype)initWithDevicePath:(NSString *)path;
+@end
+
+namespace {
+
+std::mutex gBundlesLock;
+std::map<std::string, SimApplicationBundle *> gBundles;  // live bundles by path, not retained
+
+typedef id (*BundleWithPathIMP)(id, SEL, NSString *);
+BundleWithPathIMP gPlatformBundleWithPath;
+
+bool isDirectory(const std::string &path)
+{
+    struct stat st;
+    return stat(path.c_str(), &st) == 0 && S_ISDIR(st.st_mode);
+}
+
+bool exists(const std::string &path)
+{
+    struct stat st;
+    return stat(path.c_str(), &st) == 0;
+}
+
+// An absolute host path inside the device in use, naming an application bundle.
+bool isDeviceApplication(NSString *path)
+{
+    const char *root = SimDeviceRoot();
+    if (root == NULL || ![path isKindOfClass:[NSString class]] || ![[path pathExtension] isEqualToString:@"app"])
+        return false;
+    const char *host = [path fileSystemRepresentation];
+    const size_t length = strlen(root);
+    return host != NULL && strncmp(host, root, length) == 0 && host[length] == '/' && isDirectory(host);
+}
+
+NSString *withoutTrailingSlashes(NSString *path)
+{
+    while ([path length] > 1 && [path hasSuffix:@"/"]) path = [path substringToIndex:[path length] - 1];
+    return path;
+}
+
+SimApplicationBundle *applicationBundle(NSString *path)
+{
+    path = withoutTrailingSlashes(path);
+    const std::string key = [path fileSystemRepresentation];
+    {
+        std::lock_guard<std::mutex> hold(gBundlesLock);
+        auto found = gBundles.find(key);
+        if (found != gBundles.end()) return [[found->second retain] autorelease];
+    }
+    SimApplicationBundle *bundle = [[SimApplicationBundle alloc] initWithDevicePath:path];
+    std::lock_guard<std::mutex> hold(gBundlesLock);
+    gBundles[key] = bundle;
+    return [bundle autorelease];
+}
+
+id simBundleWithPath(id self, SEL _cmd, NSString *path)
+{
+    if (self == (id)objc_getClass("NSBundle") && isDeviceApplication(path)) return applicationBundle(path);
+    return gPlatformBundleWithPath(self, _cmd, path);
+}
+
+std::string utf8(NSString *text)
+{
+    const char *bytes = [text isKindOfClass:[NSString class]] ? [text UTF8String] : NULL;
+    return bytes ? bytes : "";
+}
+
+// The user's languages: the profile's "languages", English when it names none. Kept for
+// as long as the device's profile is the same object.
+std::vector<std::string> userLanguages()
+{
+    static std::mutex lock;
+    static NSDictionary *profile;
+    static std::vector<std::string> languages;
+    std::lock_guard<std::mutex> hold(lock);
+    NSDictionary *current = SimDeviceProfile();
+    if (current != profile || languages.empty()) {
+        [profile release];
+        profile = [current retain];
+        languages.clear();
+        id named = [current objectForKey:@"languages"];
+        for (id language in [named isKindOfClass:[NSArray class]] ? named : [NSArray array]) {
+            const std::string name = utf8(language);
+            if (!name.empty() && name.find('/') == std::string::npos) languages.push_back(name);
+        }
+        if (languages.empty()) languages.push_back("en");
+    }
+    return languages;
+}
+
+// The folders searched for a resource of the bundle at `top`, in order: the bundle's top,
+// then the .lproj of each of the user's languages, then the development region's.
+std::vector<std::string> searchFolders(NSString *top, NSString *developmentRegion)
+{
+    const std::string bundle = utf8(top);
+    std::vector<std::string> folders{bundle};
+    std::vector<std::string> languages = userLanguages();
+    const std::string region = utf8(developmentRegion);
+    if (!region.empty() && region.find('/') == std::string::npos) languages.push_back(region);
+    for (const std::string &language : languages) {
+        std::string folder = bundle + "/" + language + ".lproj";
+        if (std::find(folders.begin(), folders.end(), folder) == folders.end()) folders.push_back(folder);
+    }
+    return folders;
+}
+
+// A strings table: a property list (binary or XML), or the old text format.
+NSDictionary *readStringsTable(NSString *path)
+{
+    NSData *data = [NSData dataWithContentsOfFile:path];
+    if (data == nil) return nil;
+    id table = [NSPropertyListSerialization propertyListWithData:data options:0 format:NULL error:NULL];
+    if (![table isKindOfClass:[NSDictionary class]]) {
+        NSString *text = [[[NSString alloc] initWithData:data encoding:NSUTF8StringEncoding] autorelease];
+        if (text == nil) text = [[[NSString alloc] initWithData:data encoding:NSUTF16StringEncoding] autorelease];
+        table = nil;
+        @try {
+            table = [text propertyListFromStringsFileFormat];
+        } @catch (NSException *) {
+            table = nil;
+        }
+    }
+    return [table isKindOfClass:[NSDictionary class]] ? table : nil;
+}
+
+}  // namespace
+
+@implementation SimApplicationBundle
+
+@synthesize devicePath = _devicePath;
+@synthesize info = _info;
+@synthesize tables = _tables;
+
+- (instancetype)initWithDevicePath:(NSString *)path
+{
+    // NSBundle's own initialiser is GNUstep's bundle search; NSObject's init is all it needs.
+    if ((self = [super init])) {
+        _devicePath = [path copy];
+        _tables = [[NSMutableDictionary alloc] init];
+    }
+    return self;
+}
+
+- (void)dealloc
+{
+    {
+        std::lock_guard<std::mutex> hold(gBundlesLock);
+        auto found = gBundles.find([_devicePath fileSystemRepresentation]);
+        if (found != gBundles.end() && found->second == self) gBundles.erase(found);
+    }
+    [_devicePath release];
+    [_info release];
+    [_tables release];
+    [super dealloc];
+}
+
+- (NSString *)description
+{
+    return [NSString stringWithFormat:@"NSBundle <%@> (not yet loaded)", _devicePath];
+}
+
+- (NSString *)bundlePath { return _devicePath; }
+- (NSString *)resourcePath { return _devicePath; }
+- (NSURL *)bundleURL { return [NSURL fileURLWithPath:_devicePath]; }
+- (NSURL *)resourceURL { return [self bundleURL]; }
+- (BOOL)isLoaded { return NO; }
+- (BOOL)load { return NO; }
+- (Class)principalClass { return Nil; }
+- (Class)classNamed:(NSString *)className { return Nil; }
+
+- (NSDictionary *)infoDictionary
+{
+    if (_info == nil) {
+        NSData *data = [NSData dataWithContentsOfFile:[_devicePath stringByAppendingPathComponent:@"Info.plist"]];
+        id info = data ? [NSPropertyListSerialization propertyListWithData:data options:0 format:NULL error:NULL] : nil;
+        self.info = [info isKindOfClass:[NSDictionary class]] ? info : [NSDictionary dictionary];
+    }
+    return _info;
+}
+
+- (NSString *)bundleIdentifier
+{
+    id identifier = [[self infoDictionary] objectForKey:@"CFBundleIdentifier"];
+    return [identifier isKindOfClass:[NSString class]] ? identifier : nil;
+}
+
+- (NSString *)executablePath
+{
+    id executable = [[self infoDictionary] objectForKey:@"CFBundleExecutable"];
+    return [executable isKindOfClass:[NSString class]] ? [_devicePath stringByAppendingPathComponent:executable] : nil;
+}
+
+- (NSString *)developmentLocalization
+{
+    id region = [[self infoDictionary] objectForKey:@"CFBundleDevelopmentRegion"];
+    return [region isKindOfClass:[NSString class]] ? region : @"en";
+}
+
+- (NSArray *)localizations
+{
+    NSMutableArray *found = [NSMutableArray array];
+    for (NSString *entry in [[NSFileManager defaultManager] contentsOfDirectoryAtPath:_devicePath error:NULL])
+        if ([[entry pathExtension] isEqualToString:@"lproj"]) [found addObject:[entry stringByDeletingPathExtension]];
+    return found;
+}
+
+- (NSArray *)preferredLocalizations
+{
+    NSMutableArray *preferred = [NSMutableArray array];
+    const std::vector<std::string> folders = searchFolders(_devicePath, [self developmentLocalization]);
+    for (size_t i = 1; i < folders.size(); i++) {
+        if (!isDirectory(folders[i])) continue;
+        NSString *folder = [NSString stringWithUTF8String:folders[i].c_str()];
+        [preferred addObject:[[folder lastPathComponent] stringByDeletingPathExtension]];
+    }
+    return preferred;
+}
+
+- (NSString *)pathForResource:(NSString *)name ofType:(NSString *)extension inDirectory:(NSString *)subpath
+{
+    if ([name length] == 0) return nil;
+    std::string file = utf8(name);
+    if ([extension length]) file += "." + utf8(extension);
+    if ([subpath length]) file = utf8(subpath) + "/" + file;
+    for (const std::string &folder : searchFolders(_devicePath, [self developmentLocalization])) {
+        const std::string path = folder + "/" + file;
+        if (exists(path)) return [NSString stringWithUTF8String:path.c_str()];
+    }
+    return nil;
+}
+
+- (NSString *)pathForResource:(NSString *)name ofType:(NSString *)extension
+{
+    return [self pathForResource:name ofType:extension inDirectory:nil];
+}
+
+- (NSURL *)URLForResource:(NSString *)name withExtension:(NSString *)extension
+{
+    NSString *path = [self pathForResource:name ofType:extension];
+    return path ? [NSURL fileURLWithPath:path] : nil;
+}
+
+- (NSDictionary *)stringsTableNamed:(NSString *)table
+{
+    id cached = [_tables objectForKey:table];
+    if (cached == nil) {
+        NSString *path = [self pathForResource:table ofType:@"strings"];
+        cached = (path ? readStringsTable(path) : nil) ?: [NSNull null];
+        [_tables setObject:cached forKey:table];
+    }
+    return [cached isKindOfClass:[NSDictionary class]] ? cached : nil;
+}
+
+- (NSString *)localizedStringForKey:(NSString *)key value:(NSString *)value table:(NSString *)table
+{
+    if (key == nil) return value ?: @"";
+    id found = [[self stringsTableNamed:[table length] ? table : @"Localizable"] objectForKey:key];
+    if ([found isKindOfClass:[NSString class]]) return found;
+    return [value length] ? value : key;
+}
+
+- (NSDictionary *)localizedInfoDictionary
+{
+    NSDictionary *strings = [self stringsTableNamed:@"InfoPlist"];
+    if (strings == nil) return [self infoDictionary];
+    NSMutableDictionary *localized = [NSMutableDictionary dictionaryWithDictionary:[self infoDictionary]];
+    [localized addEntriesFromDictionary:strings];
+    return localized;
+}
+
+- (id)objectForInfoDictionaryKey:(NSString *)key
+{
+    id localized = [[self stringsTableNamed:@"InfoPlist"] objectForKey:key];
+    return localized ?: [[self infoDictionary] objectForKey:key];
+}
+
+@end
+
+// Installed when the platform library loads. Names are looked up through the runtime's C
+// functions: this module's selectors may not be fixed up yet.
+@interface SimApplicationBundlesLoader : NSObject
+@end
+
+@implementation SimApplicationBundlesLoader
++ (void)load
+{
+    Class bundle = (Class)objc_getClass("NSBundle");
+    Method method = bundle ? class_getClassMethod(bundle, sel_registerName("bundleWithPath:")) : NULL;
+    if (method != NULL) gPlatformBundleWithPath = (BundleWithPathIMP)method_setImplementation(method, (IMP)simBundleWithPath);
+}
+@end
