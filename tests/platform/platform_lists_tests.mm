@@ -2,6 +2,7 @@
 // (nil key values first, stable), installed application bundles read through NSBundle with
 // their string tables, and the system resources of each system version.
 #import <Foundation/Foundation.h>
+#import <CoreGraphics/CoreGraphicsSimulation.h>
 #import <UIKit/UIKitSimulation.h>
 #include <Simulator/SimApplications.h>
 #include <Simulator/Simulator.h>
@@ -123,6 +124,8 @@ void ExpectSystemResources(const std::string &root, bool newsstand, bool setting
     UIImage *icon = [UIImage imageNamed:@"SettingsIcon" inBundle:timer compatibleWithTraitCollection:nil];
     ASSERT_NE(icon, nil);
     EXPECT_EQ(icon.size.width, 29);
+    EXPECT_NSEQ(SimCGImageDescription([UIImage imageNamed:@"SettingsIcon" inBundle:timer].CGImage),
+                SimCGImageDescription(icon.CGImage));
 }
 
 TEST_F(ListsStandInTest, SystemResourcesOfIOS14) {

@@ -192,6 +192,33 @@ TEST_F(UIViewTest, ShapeLayerRecordsItsPathAndDash)
     EXPECT_EQ(image.size.width, 20);
 }
 
+// Rendering a view tree: a view that clips to its bounds clips its subviews there, in the
+// coordinates of the context, rounded by its layer's corner radius.
+TEST_F(UIViewTest, RenderingClipsWhereViewsClipToBounds)
+{
+    UIView *root = [[[UIView alloc] initWithFrame:CGRectMake(0, 0, 60, 60)] autorelease];
+    UIView *square = [[[UIView alloc] initWithFrame:CGRectMake(10, 10, 20, 20)] autorelease];
+    UIView *rounded = [[[UIView alloc] initWithFrame:CGRectMake(30, 30, 20, 20)] autorelease];
+    UIView *open = [[[UIView alloc] initWithFrame:CGRectMake(0, 40, 10, 10)] autorelease];
+    square.clipsToBounds = YES;
+    rounded.clipsToBounds = YES;
+    rounded.layer.cornerRadius = 4;
+    for (UIView *v in [NSArray arrayWithObjects:square, rounded, open, nil]) {
+        UIView *child = [[[UIView alloc] initWithFrame:CGRectMake(15, 15, 20, 20)] autorelease];
+        child.backgroundColor = [UIColor redColor];
+        [v addSubview:child];
+        [root addSubview:v];
+    }
+    UIGraphicsBeginImageContextWithOptions(root.bounds.size, NO, 1);
+    [root.layer renderInContext:UIGraphicsGetCurrentContext()];
+    NSArray *ops = [UIGraphicsGetImageFromCurrentImageContext() _simDrawOperations];
+    UIGraphicsEndImageContext();
+    NSString *all = [ops componentsJoinedByString:@"\n"];
+    EXPECT_TRUE([ops containsObject:@"clipRect {{10, 10}, {20, 20}}"]) << [all UTF8String];
+    EXPECT_TRUE([all containsString:@"clip M 34 30;"]) << [all UTF8String];
+    EXPECT_EQ([[all componentsSeparatedByString:@"clip"] count], 3u) << [all UTF8String];
+}
+
 TEST_F(UIViewTest, AnimationsApplyAtOnceAndCompleteInOrder)
 {
     UIView *v = [[[UIView alloc] initWithFrame:CGRectMake(0, 0, 10, 10)] autorelease];

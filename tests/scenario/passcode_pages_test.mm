@@ -3,6 +3,7 @@
 // the reset from SpringBoard, and the device-passcode check.
 #import <UIKit/UIKit.h>
 #import <UIKit/UIKitSimulation.h>
+#import <Preferences/PSRootController.h>
 #import <Preferences/PSListController.h>
 #import <Preferences/PSPasscodeField.h>
 #import <Preferences/PSSpecifier.h>
@@ -138,7 +139,7 @@ protected:
         EXPECT_NE(pageClass, Nil);
         PSListController *page = [[[pageClass alloc] init] autorelease];
         PSListController *from = (PSListController *)[RootNavigation() topViewController];
-        if (from == nil) from = [RootNavigation() rootListController];
+        if (from == nil) from = [(PSRootController *)RootNavigation() rootListController];
         [from pushController:page animate:NO];
         [page view];
         SimRunLoopRunFor(0.1);

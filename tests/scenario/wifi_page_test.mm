@@ -33,10 +33,6 @@ NSArray *names(NSArray *rows) {
     return out;
 }
 
-UINavigationController *settingsRoot() {
-    return [[UIApplication sharedApplication] performSelector:@selector(rootController)];
-}
-
 }  // namespace
 
 class WiFiPageTest : public BundleTest {

@@ -766,6 +766,19 @@ static void setColor(CGColorRef *slot, CGColorRef color) {
   if (_hidden || !ctx) return;
   CGContextSaveGState(ctx);
   CGRect r = _bounds;
+  // A layer that masks to its bounds clips its own content and its sublayers to them,
+  // rounded by its corner radius.
+  if (_masksToBounds) {
+    if (_cornerRadius > 0) {
+      CGPathRef rounded = CGPathCreateWithRoundedRect(r, _cornerRadius, _cornerRadius, NULL);
+      CGContextBeginPath(ctx);
+      CGContextAddPath(ctx, rounded);
+      CGContextClip(ctx);
+      CGPathRelease(rounded);
+    } else {
+      CGContextClipToRect(ctx, r);
+    }
+  }
   [self _simRenderContentInContext:ctx rect:r];
   [self drawInContext:ctx];
   for (CALayer *l in [[_sublayers copy] autorelease]) {

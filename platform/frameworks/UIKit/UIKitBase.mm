@@ -659,6 +659,10 @@ static CGFloat scaleFromFileName(NSString *path) {
 + (UIImage *)imageNamed:(NSString *)name {
   return [self imageNamed:name inBundle:[NSBundle mainBundle] compatibleWithTraitCollection:nil];
 }
+// Private on iOS since long before the public three-argument form; the same lookup.
++ (UIImage *)imageNamed:(NSString *)name inBundle:(NSBundle *)bundle {
+  return [self imageNamed:name inBundle:bundle compatibleWithTraitCollection:nil];
+}
 + (UIImage *)imageNamed:(NSString *)name inBundle:(NSBundle *)bundle
     compatibleWithTraitCollection:(UITraitCollection *)traitCollection {
   if (![name isKindOfClass:[NSString class]] || !name.length) return nil;
