@@ -93,6 +93,7 @@
 @end
 
 @interface UIImage (TessarinPrivate)
++ (UIImage *)imageNamed:(NSString *)name inBundle:(NSBundle *)bundle;
 + (UIImage *)_applicationIconImageForBundleIdentifier:(NSString *)bundleIdentifier format:(int)format;
 + (UIImage *)_applicationIconImageForBundleIdentifier:(NSString *)bundleIdentifier
                                                format:(int)format

@@ -9,5 +9,9 @@
 // A switch row of `target` with the given accessors (no detail, no edit pane).
 PSSpecifier *listSwitchRow(NSString *name, id target, SEL setter, SEL getter);
 
+// The image of that name in `bundle`, through UIKit's two-argument lookup (the public
+// lookup with no trait collection should a system lack it).
+UIImage *imageInBundle(NSString *name, NSBundle *bundle);
+
 // The image redrawn at `size` (points) at the screen's scale.
 UIImage *resizedImage(UIImage *image, CGSize size);

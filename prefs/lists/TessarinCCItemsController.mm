@@ -22,7 +22,7 @@ NSBundle *bundleAt(std::string_view path) { return [NSBundle bundleWithPath:devi
 
 UIImage *imageIn(std::string_view name, NSBundle *bundle) {
   if (bundle == nil) return nil;
-  return [UIImage imageNamed:nsString(name) inBundle:bundle compatibleWithTraitCollection:nil];
+  return imageInBundle(nsString(name), bundle);
 }
 
 // The CCSettings toggle identifiers in the extension's order.
@@ -170,7 +170,7 @@ NSArray *CCSettingsArray() {
     [row setProperty:identifier forKey:@"id"];
     NSString *icon = nsString(lists::ccSettingsIconName(utf8));
     if (icon != nil && [settings pathForResource:[NSString stringWithFormat:@"%@@2x", icon] ofType:@"png"] != nil) {
-      UIImage *image = [UIImage imageNamed:icon inBundle:settings compatibleWithTraitCollection:nil];
+      UIImage *image = imageInBundle(icon, settings);
       if (image != nil) [row setProperty:image forKey:@"iconImage"];
     }
     [rows addObject:row];

@@ -19,7 +19,7 @@ NSString *const kFoldersFooter =
 
 UIImage *newsstandImage() {
   NSBundle *springBoard = [NSBundle bundleWithPath:devicePath(@(lists::kSpringBoardBundle))];
-  return [UIImage imageNamed:@(lists::kNewsstandImage) inBundle:springBoard compatibleWithTraitCollection:nil];
+  return imageInBundle(@(lists::kNewsstandImage), springBoard);
 }
 
 }  // namespace

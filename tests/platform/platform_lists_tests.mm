@@ -9,6 +9,11 @@
 
 #include "DeviceFixture.h"
 
+// Private on iOS, so not in UIKit's header.
+@interface UIImage (PrivateLookup)
++ (UIImage *)imageNamed:(NSString *)name inBundle:(NSBundle *)bundle;
+@end
+
 namespace {
 
 class ListsStandInTest : public DeviceTest {};

@@ -41,8 +41,6 @@ typedef NS_ENUM(NSInteger, UIImageResizingMode){
 }
 + (UIImage *)imageNamed:(NSString *)name;
 + (UIImage *)imageNamed:(NSString *)name inBundle:(NSBundle *)bundle compatibleWithTraitCollection:(UITraitCollection *)traitCollection;
-/* Private on iOS: the three-argument lookup without a trait collection. */
-+ (UIImage *)imageNamed:(NSString *)name inBundle:(NSBundle *)bundle;
 + (UIImage *)imageWithContentsOfFile:(NSString *)path;
 + (UIImage *)imageWithData:(NSData *)data;
 + (UIImage *)imageWithData:(NSData *)data scale:(CGFloat)scale;
