@@ -100,6 +100,7 @@ TEST_F(ListsStandInTest, ApplicationBundlesAreFlatAndOnePerPath) {
         {@{@"it" : @{@"K" : @"it"}}, nil, nil, @"value"},
         {@{@"fr" : @{@"K" : @"fr"}}, nil, @"\"K\" = \"top\";", @"top"},
         {@{@"fr" : @{@"Other" : @"fr"}}, nil, nil, @"value"},
+        {nil, nil, @"\"K\" = \"unterminated;", @"value"},
     };
     int n = 0;
     for (const Case &c : cases) {

@@ -23,14 +23,14 @@
 #import "Simulator/SimInternal.h"
 
 @interface SimApplicationBundle : NSBundle {
-    NSString *_devicePath;
+    NSString *_hostPath;
     NSDictionary *_info;
     NSMutableDictionary *_tables;
 }
-@property(nonatomic, copy) NSString *devicePath;
+@property(nonatomic, copy) NSString *hostPath;
 @property(nonatomic, retain) NSDictionary *info;
 @property(nonatomic, retain) NSMutableDictionary *tables;
-- (instancetype)initWithDevicePath:(NSString *)path;
+- (instancetype)initWithHostPath:(NSString *)path;
 @end
 
 namespace {
@@ -79,7 +79,7 @@ SimApplicationBundle *applicationBundle(NSString *path)
         auto found = gBundles.find(key);
         if (found != gBundles.end()) return [[found->second retain] autorelease];
     }
-    SimApplicationBundle *bundle = [[SimApplicationBundle alloc] initWithDevicePath:path];
+    SimApplicationBundle *bundle = [[SimApplicationBundle alloc] initWithHostPath:path];
     std::lock_guard<std::mutex> hold(gBundlesLock);
     gBundles[key] = bundle;
     return [bundle autorelease];
@@ -159,15 +159,15 @@ NSDictionary *readStringsTable(NSString *path)
 
 @implementation SimApplicationBundle
 
-@synthesize devicePath = _devicePath;
+@synthesize hostPath = _hostPath;
 @synthesize info = _info;
 @synthesize tables = _tables;
 
-- (instancetype)initWithDevicePath:(NSString *)path
+- (instancetype)initWithHostPath:(NSString *)path
 {
     // NSBundle's own initialiser is GNUstep's bundle search; NSObject's init is all it needs.
     if ((self = [super init])) {
-        _devicePath = [path copy];
+        _hostPath = [path copy];
         _tables = [[NSMutableDictionary alloc] init];
     }
     return self;
@@ -177,10 +177,10 @@ NSDictionary *readStringsTable(NSString *path)
 {
     {
         std::lock_guard<std::mutex> hold(gBundlesLock);
-        auto found = gBundles.find([_devicePath fileSystemRepresentation]);
+        auto found = gBundles.find([_hostPath fileSystemRepresentation]);
         if (found != gBundles.end() && found->second == self) gBundles.erase(found);
     }
-    [_devicePath release];
+    [_hostPath release];
     [_info release];
     [_tables release];
     [super dealloc];
@@ -188,12 +188,12 @@ NSDictionary *readStringsTable(NSString *path)
 
 - (NSString *)description
 {
-    return [NSString stringWithFormat:@"NSBundle <%@> (not yet loaded)", _devicePath];
+    return [NSString stringWithFormat:@"NSBundle <%@> (not yet loaded)", _hostPath];
 }
 
-- (NSString *)bundlePath { return _devicePath; }
-- (NSString *)resourcePath { return _devicePath; }
-- (NSURL *)bundleURL { return [NSURL fileURLWithPath:_devicePath]; }
+- (NSString *)bundlePath { return _hostPath; }
+- (NSString *)resourcePath { return _hostPath; }
+- (NSURL *)bundleURL { return [NSURL fileURLWithPath:_hostPath]; }
 - (NSURL *)resourceURL { return [self bundleURL]; }
 - (BOOL)isLoaded { return NO; }
 - (BOOL)load { return NO; }
@@ -203,7 +203,7 @@ NSDictionary *readStringsTable(NSString *path)
 - (NSDictionary *)infoDictionary
 {
     if (_info == nil) {
-        NSData *data = [NSData dataWithContentsOfFile:[_devicePath stringByAppendingPathComponent:@"Info.plist"]];
+        NSData *data = [NSData dataWithContentsOfFile:[_hostPath stringByAppendingPathComponent:@"Info.plist"]];
         id info = data ? [NSPropertyListSerialization propertyListWithData:data options:0 format:NULL error:NULL] : nil;
         self.info = [info isKindOfClass:[NSDictionary class]] ? info : [NSDictionary dictionary];
     }
@@ -219,7 +219,7 @@ NSDictionary *readStringsTable(NSString *path)
 - (NSString *)executablePath
 {
     id executable = [[self infoDictionary] objectForKey:@"CFBundleExecutable"];
-    return [executable isKindOfClass:[NSString class]] ? [_devicePath stringByAppendingPathComponent:executable] : nil;
+    return [executable isKindOfClass:[NSString class]] ? [_hostPath stringByAppendingPathComponent:executable] : nil;
 }
 
 - (NSString *)developmentLocalization
@@ -231,7 +231,7 @@ NSDictionary *readStringsTable(NSString *path)
 - (NSArray *)localizations
 {
     NSMutableArray *found = [NSMutableArray array];
-    for (NSString *entry in [[NSFileManager defaultManager] contentsOfDirectoryAtPath:_devicePath error:NULL])
+    for (NSString *entry in [[NSFileManager defaultManager] contentsOfDirectoryAtPath:_hostPath error:NULL])
         if ([[entry pathExtension] isEqualToString:@"lproj"]) [found addObject:[entry stringByDeletingPathExtension]];
     return found;
 }
@@ -239,7 +239,7 @@ NSDictionary *readStringsTable(NSString *path)
 - (NSArray *)preferredLocalizations
 {
     NSMutableArray *preferred = [NSMutableArray array];
-    const std::vector<std::string> folders = searchFolders(_devicePath, [self developmentLocalization]);
+    const std::vector<std::string> folders = searchFolders(_hostPath, [self developmentLocalization]);
     for (size_t i = 1; i < folders.size(); i++) {
         if (!isDirectory(folders[i])) continue;
         NSString *folder = [NSString stringWithUTF8String:folders[i].c_str()];
@@ -254,7 +254,7 @@ NSDictionary *readStringsTable(NSString *path)
     std::string file = utf8(name);
     if ([extension length]) file += "." + utf8(extension);
     if ([subpath length]) file = utf8(subpath) + "/" + file;
-    for (const std::string &folder : searchFolders(_devicePath, [self developmentLocalization])) {
+    for (const std::string &folder : searchFolders(_hostPath, [self developmentLocalization])) {
         const std::string path = folder + "/" + file;
         if (exists(path)) return [NSString stringWithUTF8String:path.c_str()];
     }
