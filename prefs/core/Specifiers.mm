@@ -7,3 +7,13 @@ PSSpecifier *footerGroup(NSString *footer) {
   [group setProperty:footer forKey:@"footerText"];
   return group;
 }
+
+PSSpecifier *switchRow(NSString *name, id target, SEL setter, SEL getter) {
+  return [PSSpecifier preferenceSpecifierNamed:name
+                                        target:target
+                                           set:setter
+                                           get:getter
+                                        detail:Nil
+                                          cell:PSSwitchCell
+                                          edit:Nil];
+}

@@ -1,13 +1,10 @@
 // What the protection-list pages share beyond the core helpers they re-export:
-// their switch rows and the icon resizing.
+// bundle images and the icon resizing.
 #pragma once
 #import "core/PlatformAPI.h"
 #import "core/Specifiers.h"
 #import "core/SpringBoardRequests.h"
 #import "core/Strings.h"
-
-// A switch row of `target` with the given accessors (no detail, no edit pane).
-PSSpecifier *listSwitchRow(NSString *name, id target, SEL setter, SEL getter);
 
 // The image of that name in `bundle`, through UIKit's two-argument lookup (the public
 // lookup with no trait collection should a system lack it).

@@ -2,16 +2,6 @@
 
 #include "core/Names.hpp"
 
-PSSpecifier *listSwitchRow(NSString *name, id target, SEL setter, SEL getter) {
-  return [PSSpecifier preferenceSpecifierNamed:name
-                                        target:target
-                                           set:setter
-                                           get:getter
-                                        detail:Nil
-                                          cell:PSSwitchCell
-                                          edit:Nil];
-}
-
 UIImage *imageInBundle(NSString *name, NSBundle *bundle) {
   if ([UIImage respondsToSelector:@selector(imageNamed:inBundle:)]) return [UIImage imageNamed:name inBundle:bundle];
   return [UIImage imageNamed:name inBundle:bundle compatibleWithTraitCollection:nil];

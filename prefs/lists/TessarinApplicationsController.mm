@@ -80,7 +80,7 @@ lists::AllowedApplications allowedApplications() {
       NSString *identifier = [bundle bundleIdentifier];
       std::optional<std::string> listed = listing.consider(source, name, utf8String(identifier));
       if (!listed) continue;
-      PSSpecifier *row = listSwitchRow(nsString(*listed), self, @selector(setProtectEnabled:specifier:),
+      PSSpecifier *row = switchRow(nsString(*listed), self, @selector(setProtectEnabled:specifier:),
                                        @selector(getProtectEnabledForSpecifier:));
       if (identifier != nil) {
         [row setProperty:identifier forKey:@"id"];

@@ -65,7 +65,7 @@ NSArray *CCSettingsArray() {
     for (const lists::CCTableRow &item : lists::kClassicRows) {
       UIImage *glyph = imageIn(item.image, springBoard);
       if (glyph == nil) glyph = imageIn(item.image, controlCenterUI);
-      PSSpecifier *row = listSwitchRow(nsString(item.title), self, @selector(setCCItemProtectEnabled:specifier:),
+      PSSpecifier *row = switchRow(nsString(item.title), self, @selector(setCCItemProtectEnabled:specifier:),
                                        @selector(getCCItemProtectEnabledForSpecifier:));
       [row setProperty:nsString(item.identifier) forKey:@"id"];
       if (glyph != nil) {
@@ -113,7 +113,7 @@ NSArray *CCSettingsArray() {
 }
 
 - (PSSpecifier *)newSpecifierWithName:(NSString *)name andID:(NSString *)identifier andImage:(UIImage *)image {
-  PSSpecifier *row = listSwitchRow(name, self, @selector(setCCItemProtectEnabled:specifier:),
+  PSSpecifier *row = switchRow(name, self, @selector(setCCItemProtectEnabled:specifier:),
                                    @selector(getCCItemProtectEnabledForSpecifier:));
   if (identifier != nil) [row setProperty:identifier forKey:@"id"];
   UIImage *icon = [self roundedImage:image];
@@ -164,7 +164,7 @@ NSArray *CCSettingsArray() {
   for (NSString *identifier in CCSettingsArray()) {
     const char *utf8 = [identifier UTF8String];
     if (utf8 == NULL) continue;
-    PSSpecifier *row = listSwitchRow(nsString(lists::ccSettingsTitle(utf8)), self,
+    PSSpecifier *row = switchRow(nsString(lists::ccSettingsTitle(utf8)), self,
                                      @selector(setCCSettingsItemProtectEnabled:specifier:),
                                      @selector(getCCSettingsItemProtectEnabledForSpecifier:));
     [row setProperty:identifier forKey:@"id"];

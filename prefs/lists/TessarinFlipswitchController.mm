@@ -1,6 +1,7 @@
 #import "lists/TessarinFlipswitchController.h"
 #import "core/Strings.h"
 #import "core/Paths.h"
+#import "core/Specifiers.h"
 #import "core/ProtectedListStore.h"
 #include <string>
 #include "lists/ListPageRules.hpp"
@@ -47,13 +48,9 @@ NSString *switchItem(PSSpecifier *row) {
   for (NSString *identifier in [identifiers isKindOfClass:[NSArray class]] ? identifiers : @[]) {
     if (![identifier isKindOfClass:[NSString class]] || !tessarin::lists::listsToggle(stdString(identifier))) continue;
     NSString *title = [panel titleForSwitchIdentifier:identifier];
-    PSSpecifier *row = [PSSpecifier preferenceSpecifierNamed:[title isKindOfClass:[NSString class]] ? title : identifier
-                                                      target:self
-                                                         set:@selector(setFlipswitchProtectEnabled:specifier:)
-                                                         get:@selector(getFlipswitchProtectEnabledForSpecifier:)
-                                                      detail:Nil
-                                                        cell:PSSwitchCell
-                                                        edit:Nil];
+    PSSpecifier *row = switchRow([title isKindOfClass:[NSString class]] ? title : identifier, self,
+                                 @selector(setFlipswitchProtectEnabled:specifier:),
+                                 @selector(getFlipswitchProtectEnabledForSpecifier:));
     [row setProperty:identifier forKey:@"id"];
     UIImage *icon = [panel imageOfSwitchState:FSSwitchStateOff
                                  controlState:UIControlStateNormal

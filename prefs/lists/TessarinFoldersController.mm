@@ -38,7 +38,7 @@ UIImage *newsstandImage() {
     for (NSDictionary *folder in (NSArray *)folders) {
       if (![folder isKindOfClass:[NSDictionary class]]) continue;
       id displayName = [folder objectForKey:@"displayName"];
-      PSSpecifier *row = listSwitchRow([displayName isKindOfClass:[NSString class]] ? displayName : nil, self,
+      PSSpecifier *row = switchRow([displayName isKindOfClass:[NSString class]] ? displayName : nil, self,
                                        @selector(setFolderProtectEnabled:specifier:),
                                        @selector(getFolderProtectEnabledForSpecifier:));
       for (NSString *key in @[ @"defaultDisplayName", @"folderType", @"bundleIdentifiers" ]) {

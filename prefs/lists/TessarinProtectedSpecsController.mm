@@ -52,13 +52,8 @@ NSArray *settingsListRows(void) {
         [rows addObject:[PSSpecifier emptyGroupSpecifier]];
         break;
       case tessarin::lists::PaneRow::Switch: {
-        PSSpecifier *row = [PSSpecifier preferenceSpecifierNamed:name
-                                                          target:self
-                                                             set:@selector(setPreferenceProtectEnabled:specifier:)
-                                                             get:@selector(getPreferenceProtectEnabledForSpecifier:)
-                                                          detail:Nil
-                                                            cell:PSSwitchCell
-                                                            edit:Nil];
+        PSSpecifier *row = switchRow(name, self, @selector(setPreferenceProtectEnabled:specifier:),
+                                     @selector(getPreferenceProtectEnabledForSpecifier:));
         id icon = [source propertyForKey:@"iconImage"];
         if (icon != nil) [row setProperty:icon forKey:@"iconImage"];
         [row setProperty:@(YES) forKey:@"useLazyIcons"];

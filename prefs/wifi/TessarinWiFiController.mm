@@ -4,6 +4,7 @@
 #import "core/BundleLookup.h"
 #import "core/PlistBridge.h"
 #import "core/PreferenceStore.h"
+#import "core/Specifiers.h"
 #import "core/VersionFlags.h"
 #import "wifi/TessarinWiFiManager.h"
 #include "core/Names.hpp"
@@ -63,13 +64,8 @@ id knownNetworkRecords(void) {
 
   std::optional<tessarin::plist::Value> records = plistValueFromObject(knownNetworkRecords());
   for (const wifi::NetworkRow &network : wifi::networkRows(records ? &*records : nullptr)) {
-    PSSpecifier *row = [PSSpecifier preferenceSpecifierNamed:nsString(network.ssid)
-                                                      target:self
-                                                         set:@selector(setNetworkProtected:specifier:)
-                                                         get:@selector(getNetworkProtectedForSpecifier:)
-                                                      detail:Nil
-                                                        cell:PSSwitchCell
-                                                        edit:Nil];
+    PSSpecifier *row = switchRow(nsString(network.ssid), self, @selector(setNetworkProtected:specifier:),
+                                 @selector(getNetworkProtectedForSpecifier:));
     [row setProperty:nsString(network.bssid) forKey:@"bssid"];
     if (network.password) [row setProperty:nsString(*network.password) forKey:@"password"];
     [row setProperty:[TessarinWifiInfoCell class] forKey:@"cellClass"];
