@@ -3,7 +3,7 @@
 #pragma once
 
 #import <Foundation/Foundation.h>
-@class UIViewController;
+@class PSListController, UIViewController;
 #include <dlfcn.h>
 #include <gtest/gtest.h>
 #include <sys/types.h>
@@ -33,6 +33,8 @@ protected:
     // Shows `page` as the Settings list opens a pane: the first page of the pane's own
     // navigation controller (the application's rootController), on screen.
     void ShowAsSettingsPane(UIViewController *page);
+    // A new page of the bundle's class `className`, shown as a Settings pane, loaded, with its rows built.
+    PSListController *OpenSettingsPane(NSString *className);
     // Taps the product's row of the Settings list (the one that opens the bundle's
     // principal class) and returns the page shown once the push is over.
     UIViewController *OpenProductFromSettingsList();

@@ -65,6 +65,16 @@ void BundleTest::ShowAsSettingsPane(UIViewController *page) {
     [[SimSettingsRootController() rootListController] pushController:page animate:NO];
 }
 
+PSListController *BundleTest::OpenSettingsPane(NSString *className) {
+    Class pageClass = NSClassFromString(className);
+    EXPECT_NE(pageClass, Nil) << [className UTF8String];
+    PSListController *page = [[[pageClass alloc] init] autorelease];
+    ShowAsSettingsPane(page);
+    [page view];
+    [page specifiers];
+    return page;
+}
+
 UIViewController *BundleTest::OpenProductFromSettingsList() {
     PSListController *list = [SimSettingsRootController() rootListController];
     [list view];

@@ -36,10 +36,6 @@ NSDictionary *logFile(NSString *name, NSString *text) {
     return @{@"path" : [@(kDir) stringByAppendingPathComponent:name], @"contents" : text};
 }
 
-UINavigationController *settingsRoot() {
-    return [[UIApplication sharedApplication] performSelector:@selector(rootController)];
-}
-
 }  // namespace
 
 class LogsPagesTest : public BundleTest {
@@ -60,13 +56,7 @@ protected:
     }
 
     PSEditableListController *OpenPage() {
-        Class pageClass = NSClassFromString(@"TessarinDebugLogsController");
-        EXPECT_NE(pageClass, Nil);
-        PSEditableListController *page = [[[pageClass alloc] init] autorelease];
-        ShowAsSettingsPane(page);
-        [page view];
-        [page specifiers];
-        return page;
+        return (PSEditableListController *)OpenSettingsPane(@"TessarinDebugLogsController");
     }
 
     PSSpecifier *Row(PSListController *page, NSString *file) {
@@ -81,7 +71,7 @@ protected:
         EXPECT_NE(row, nil);
         EXPECT_TRUE(SimListControllerTapSpecifier(page, row));
         SimRunLoopRunFor(SimTransitionDuration + 0.1);
-        UIViewController *top = [settingsRoot() topViewController];
+        UIViewController *top = [SimSettingsRootController() topViewController];
         EXPECT_NSEQ(NSStringFromClass([top class]), @"TessarinCrashLogViewer");
         [top view];
         return (PSViewController *)top;
@@ -233,7 +223,7 @@ TEST_F(LogsPagesTest, TheViewerShowsTheWholeLogAndNothingForOneThatIsNotUTF8) {
     EXPECT_EQ([share style], UIBarButtonItemStyleDone);
     EXPECT_NE([share image], nil);
 
-    [settingsRoot() popViewControllerAnimated:NO];
+    [SimSettingsRootController() popViewControllerAnimated:NO];
     viewer = OpenViewer(page, kNotUTF8);
     EXPECT_EQ([[TextOf(viewer) text] length], 0u);
 }

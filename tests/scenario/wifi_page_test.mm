@@ -49,15 +49,7 @@ protected:
         *flags = tessarin::systemVersionFlags([[[NSProcessInfo processInfo] operatingSystemVersionString] UTF8String]);
     }
 
-    PSListController *OpenPage() {
-        Class pageClass = NSClassFromString(@"TessarinWiFiController");
-        EXPECT_NE(pageClass, Nil);
-        PSListController *page = [[[pageClass alloc] init] autorelease];
-        ShowAsSettingsPane(page);
-        [page view];
-        [page specifiers];
-        return page;
-    }
+    PSListController *OpenPage() { return OpenSettingsPane(@"TessarinWiFiController"); }
 
     PSSpecifier *Row(PSListController *page, NSString *name) {
         for (PSSpecifier *row in [page specifiers])
