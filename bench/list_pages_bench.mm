@@ -99,6 +99,15 @@ double seconds(std::chrono::steady_clock::time_point since) {
     return std::chrono::duration<double>(std::chrono::steady_clock::now() - since).count();
 }
 
+// Builds a new page's rows once; gives the seconds taken and the row count.
+double timeRowBuild(Class page, size_t *rows) {
+    auto start = std::chrono::steady_clock::now();
+    PSListController *controller = [[page alloc] init];
+    *rows = [[controller specifiers] count];
+    [controller release];
+    return seconds(start);
+}
+
 void ApplicationsPageRows(benchmark::State &state) {
     NSMutableArray *infoPlists = [NSMutableArray array];
     LargeDevice device(applicationsProfile(infoPlists));
@@ -111,14 +120,10 @@ void ApplicationsPageRows(benchmark::State &state) {
     size_t rows = 0, runs = 0;
     for (auto _ : state) {
         NSAutoreleasePool *pool = [[NSAutoreleasePool alloc] init];
-        auto start = std::chrono::steady_clock::now();
-        PSListController *controller = [[page alloc] init];
-        rows = [[controller specifiers] count];
-        [controller release];
-        const double pageSeconds = seconds(start);
+        const double pageSeconds = timeRowBuild(page, &rows);
 
         // The raw cost: open and read each Info.plist.
-        start = std::chrono::steady_clock::now();
+        auto start = std::chrono::steady_clock::now();
         size_t read = 0;
         for (NSString *path in infoPlists) {
             char host[4096];
@@ -183,11 +188,7 @@ void FoldersPageRows(benchmark::State &state) {
     size_t rows = 0, runs = 0;
     for (auto _ : state) {
         NSAutoreleasePool *pool = [[NSAutoreleasePool alloc] init];
-        auto start = std::chrono::steady_clock::now();
-        PSListController *controller = [[page alloc] init];
-        rows = [[controller specifiers] count];
-        [controller release];
-        const double s = seconds(start);
+        const double s = timeRowBuild(page, &rows);
         state.SetIterationTime(s);
         total += s;
         runs++;

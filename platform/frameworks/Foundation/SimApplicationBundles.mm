@@ -53,27 +53,23 @@ bool exists(const std::string &path)
     return stat(path.c_str(), &st) == 0;
 }
 
-// An absolute host path inside the device in use, naming an application bundle.
-bool isDeviceApplication(NSString *path)
-{
-    const char *root = SimDeviceRoot();
-    if (root == NULL || ![path isKindOfClass:[NSString class]] || ![[path pathExtension] isEqualToString:@"app"])
-        return false;
-    const char *host = [path fileSystemRepresentation];
-    const size_t length = strlen(root);
-    return host != NULL && strncmp(host, root, length) == 0 && host[length] == '/' && isDirectory(host);
-}
-
 NSString *withoutTrailingSlashes(NSString *path)
 {
     while ([path length] > 1 && [path hasSuffix:@"/"]) path = [path substringToIndex:[path length] - 1];
     return path;
 }
 
-SimApplicationBundle *applicationBundle(NSString *path)
+// An absolute host path inside the device in use, naming an application bundle.
+bool isDeviceApplication(NSString *path, const std::string &host)
 {
-    path = withoutTrailingSlashes(path);
-    const std::string key = [path fileSystemRepresentation];
+    const char *root = SimDeviceRoot();
+    if (root == NULL || ![[path pathExtension] isEqualToString:@"app"]) return false;
+    const size_t length = strlen(root);
+    return host.compare(0, length, root) == 0 && host.size() > length && host[length] == '/' && isDirectory(host);
+}
+
+SimApplicationBundle *applicationBundle(NSString *path, const std::string &key)
+{
     {
         std::lock_guard<std::mutex> hold(gBundlesLock);
         auto found = gBundles.find(key);
@@ -85,38 +81,31 @@ SimApplicationBundle *applicationBundle(NSString *path)
     return [bundle autorelease];
 }
 
-id simBundleWithPath(id self, SEL _cmd, NSString *path)
-{
-    if (self == (id)objc_getClass("NSBundle") && isDeviceApplication(path)) return applicationBundle(path);
-    return gPlatformBundleWithPath(self, _cmd, path);
-}
-
 std::string utf8(NSString *text)
 {
     const char *bytes = [text isKindOfClass:[NSString class]] ? [text UTF8String] : NULL;
     return bytes ? bytes : "";
 }
 
-// The user's languages: the profile's "languages", English when it names none. Kept for
-// as long as the device's profile is the same object.
+id simBundleWithPath(id self, SEL _cmd, NSString *path)
+{
+    if (self == (id)objc_getClass("NSBundle") && [path isKindOfClass:[NSString class]]) {
+        NSString *bundle = withoutTrailingSlashes(path);
+        const std::string host = utf8(bundle);
+        if (isDeviceApplication(bundle, host)) return applicationBundle(bundle, host);
+    }
+    return gPlatformBundleWithPath(self, _cmd, path);
+}
+
+// The user's languages: the profile's "languages", English when it names none.
 std::vector<std::string> userLanguages()
 {
-    static std::mutex lock;
-    static NSDictionary *profile;
-    static std::vector<std::string> languages;
-    std::lock_guard<std::mutex> hold(lock);
-    NSDictionary *current = SimDeviceProfile();
-    if (current != profile || languages.empty()) {
-        [profile release];
-        profile = [current retain];
-        languages.clear();
-        id named = [current objectForKey:@"languages"];
-        for (id language in [named isKindOfClass:[NSArray class]] ? named : [NSArray array]) {
-            const std::string name = utf8(language);
-            if (!name.empty() && name.find('/') == std::string::npos) languages.push_back(name);
-        }
-        if (languages.empty()) languages.push_back("en");
+    std::vector<std::string> languages;
+    for (id language in SimProfileValue(@"languages", [NSArray class])) {
+        const std::string name = utf8(language);
+        if (!name.empty() && name.find('/') == std::string::npos) languages.push_back(name);
     }
+    if (languages.empty()) languages.push_back("en");
     return languages;
 }
 
@@ -177,7 +166,7 @@ NSDictionary *readStringsTable(NSString *path)
 {
     {
         std::lock_guard<std::mutex> hold(gBundlesLock);
-        auto found = gBundles.find([_hostPath fileSystemRepresentation]);
+        auto found = gBundles.find(utf8(_hostPath));
         if (found != gBundles.end() && found->second == self) gBundles.erase(found);
     }
     [_hostPath release];
