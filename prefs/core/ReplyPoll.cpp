@@ -21,8 +21,8 @@ std::optional<Bytes> readReplyFile(const std::string &path) {
   return bytes;
 }
 
-std::optional<Bytes> awaitReply(const std::function<std::optional<Bytes>()> &read,
-                                const std::function<double()> &now, double budgetSeconds) {
+std::optional<Bytes> awaitReply(FunctionRef<std::optional<Bytes>()> read, FunctionRef<double()> now,
+                                double budgetSeconds) {
   const double start = now();
   while (now() - start <= budgetSeconds) {
     if (auto data = read()) return data;

@@ -3,10 +3,11 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <optional>
 #include <string>
 #include <vector>
+
+#include "core/FunctionRef.hpp"
 
 namespace tessarin {
 
@@ -24,7 +25,7 @@ std::optional<Bytes> readReplyFile(const std::string &path);
 // Calls `read` without pausing until it gives data or more than `budgetSeconds`
 // have passed since the first call (by `now`, in seconds); when the loop ends
 // without data, reads once more.
-std::optional<Bytes> awaitReply(const std::function<std::optional<Bytes>()> &read,
-                                const std::function<double()> &now, double budgetSeconds);
+std::optional<Bytes> awaitReply(FunctionRef<std::optional<Bytes>()> read, FunctionRef<double()> now,
+                                double budgetSeconds);
 
 }  // namespace tessarin

@@ -7,7 +7,7 @@ int entryFieldCount(long long length) {
 }
 
 std::string_view systemControllerClass(bool faceID,
-                                       const std::function<bool(std::string_view)> &yieldsController) {
+                                       FunctionRef<bool(std::string_view)> yieldsController) {
   if (!yieldsController) return {};
   if (faceID) {
     return yieldsController(kFaceIDControllerClass) ? std::string_view(kFaceIDControllerClass)
@@ -23,7 +23,7 @@ bool holdsAuthorisation(TokenAnswer privateToken, TokenAnswer publicToken) {
   return privateToken != TokenAnswer::Null && publicToken != TokenAnswer::Null;
 }
 
-Step DevicePasscodeFlow::enter(std::string_view entry, const Checker &isRight) {
+Step DevicePasscodeFlow::enter(std::string_view entry, Checker isRight) {
   if (closed_) return Step{};
   if (errorCount_ >= kAllowedErrors) {
     closed_ = true;

@@ -4,9 +4,9 @@
 #pragma once
 
 #include <cstddef>
-#include <functional>
 #include <string_view>
 
+#include "core/FunctionRef.hpp"
 #include "passcode/PasscodeFlow.hpp"
 
 namespace tessarin::passcode {
@@ -36,7 +36,7 @@ inline constexpr const char *kSystemSpecifierPasscodeProperty = "passcode";
 // `yieldsController` (the class exists and gives an object) holds. Empty when
 // none does.
 std::string_view systemControllerClass(bool faceID,
-                                       const std::function<bool(std::string_view)> &yieldsController);
+                                       FunctionRef<bool(std::string_view)> yieldsController);
 
 // How the system page answered one of its token methods.
 enum class TokenAnswer {
@@ -54,7 +54,7 @@ class DevicePasscodeFlow {
   // Answers whether the entry is the device passcode. Called only when the
   // page still accepts entries. A device with no system page to check with
   // should answer false rather than let the entry through.
-  using Checker = std::function<bool(std::string_view entry)>;
+  using Checker = FunctionRef<bool(std::string_view entry)>;
 
   enum class State { Asking, Locked, Closed };
 
@@ -65,7 +65,7 @@ class DevicePasscodeFlow {
   // One entry. Locked (two errors): refused without calling `isRight`.
   // Otherwise right -> success; wrong -> error count + 1, sound, shake to
   // the device prompt with kWrong. An empty checker counts as wrong.
-  Step enter(std::string_view entry, const Checker &isRight);
+  Step enter(std::string_view entry, Checker isRight);
   Step cancel();
 
   int errorCount() const { return errorCount_; }

@@ -24,9 +24,7 @@ std::optional<WarningRow> warningRow(bool gracePeriod, bool trustedNetwork, bool
 }
 
 bool fileExists(const ProbePath &path, const FileProbe &probe) {
-  if (!probe.exists) return false;
-  if (path.underJailRoot && probe.jailRoot) return probe.exists(probe.jailRoot(path.path));
-  return probe.exists(path.path);
+  return probe.exists(path.underJailRoot ? probe.jailRoot(path.path) : std::string(path.path));
 }
 
 RowAction rowAction(std::string_view id, const DeviceFacts &device, const FileProbe &probe) {
@@ -82,7 +80,7 @@ bool isSimplePasscode(const PasscodeCharacteristics &characteristics) {
 std::optional<DeviceAuthRow> deviceAuthRow(const DeviceFacts &device,
                                            const std::optional<PasscodeCharacteristics> &devicePasscode,
                                            bool warningAdded,
-                                           const std::function<bool(std::string_view)> &classExists) {
+                                           FunctionRef<bool(std::string_view)> classExists) {
   if (!device.biometricSensor) return std::nullopt;
 
   DeviceAuthRow row{};
@@ -104,7 +102,7 @@ std::optional<DeviceAuthRow> deviceAuthRow(const DeviceFacts &device,
 }
 
 RootRowsPlan planRootRows(const std::vector<std::string> &loadedIds, const RootPageFacts &facts,
-                          const FileProbe &probe, const std::function<bool(std::string_view)> &classExists) {
+                          const FileProbe &probe, FunctionRef<bool(std::string_view)> classExists) {
   RootRowsPlan plan;
   const auto disabled = [&](std::string_view id) {
     return rowDisabled(id, facts.biometricsSet, facts.productPasscodeSet);

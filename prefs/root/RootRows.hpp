@@ -10,12 +10,12 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
-#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "core/FunctionRef.hpp"
 #include "core/SystemVersion.hpp"
 
 namespace tessarin::root {
@@ -114,13 +114,14 @@ struct DeviceFacts {
 
 DeviceFacts deviceFacts(bool biometricSensor, bool faceID, bool iPad, const SystemVersionFlags &system);
 
-// How the file system is asked about add-on libraries. `exists` tells whether
-// a file exists at a device path; `jailRoot` maps a device path to its form
-// under the jail root. A missing `exists` answers false; a missing `jailRoot`
-// leaves the path as it is.
-struct FileProbe {
-  std::function<bool(std::string_view)> exists;
-  std::function<std::string(std::string_view)> jailRoot;
+// How the file system is asked about add-on libraries; the page answers from the device.
+class FileProbe {
+ public:
+  virtual ~FileProbe() = default;
+  // Whether a file exists at a device path.
+  virtual bool exists(std::string_view path) const = 0;
+  // The device path's form under the jail root.
+  virtual std::string jailRoot(std::string_view path) const = 0;
 };
 
 struct ProbePath {
@@ -218,7 +219,7 @@ struct DeviceAuthRow {
 std::optional<DeviceAuthRow> deviceAuthRow(const DeviceFacts &device,
                                            const std::optional<PasscodeCharacteristics> &devicePasscode,
                                            bool warningAdded,
-                                           const std::function<bool(std::string_view)> &classExists);
+                                           FunctionRef<bool(std::string_view)> classExists);
 
 // ---------------------------------------------------------------------------
 // The credits block at the bottom: an empty group, the credits row, and the
@@ -274,6 +275,6 @@ struct RootRowsPlan {
 // without one). When the list is too short for the fixed insertion indexes,
 // the device-authentication rows go at its end.
 RootRowsPlan planRootRows(const std::vector<std::string> &loadedIds, const RootPageFacts &facts,
-                          const FileProbe &probe, const std::function<bool(std::string_view)> &classExists);
+                          const FileProbe &probe, FunctionRef<bool(std::string_view)> classExists);
 
 }  // namespace tessarin::root

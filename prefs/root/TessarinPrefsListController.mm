@@ -66,12 +66,12 @@ std::optional<root::PasscodeCharacteristics> devicePasscodeCharacteristics(void)
 
 bool classExists(std::string_view name) { return NSClassFromString(nsString(name)) != Nil; }
 
-root::FileProbe deviceFileProbe(void) {
-  root::FileProbe probe;
-  probe.exists = [](std::string_view path) { return deviceFileExists(nsString(path)) ? true : false; };
-  probe.jailRoot = [](std::string_view path) { return stdString(jbroot(nsString(path))); };
-  return probe;
-}
+// The add-on probes answered from the device's files.
+class DeviceFileProbe final : public root::FileProbe {
+ public:
+  bool exists(std::string_view path) const override { return deviceFileExists(nsString(path)) ? true : false; }
+  std::string jailRoot(std::string_view path) const override { return stdString(jbroot(nsString(path))); }
+};
 
 BOOL isPad(void) { return [[UIDevice currentDevice] userInterfaceIdiom] == UIUserInterfaceIdiomPad; }
 
@@ -188,7 +188,7 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
   facts.device = root::deviceFacts(sensor, hasPearl(), isPad(), systemVersion);
   if (sensor) facts.devicePasscode = devicePasscodeCharacteristics();
 
-  const root::RootRowsPlan plan = planRootRows(loadedIds, facts, deviceFileProbe(), classExists);
+  const root::RootRowsPlan plan = planRootRows(loadedIds, facts, DeviceFileProbe(), classExists);
 
   NSMutableArray *rows = [NSMutableArray array];
   for (const root::PlannedRow &planned : plan.rows) {

@@ -36,7 +36,7 @@ std::vector<NetworkRecord> networkRecords(std::vector<PlatformNetwork> networks)
   return records;
 }
 
-bool isTrusted(const std::vector<TrustedEntry> &trusted, const CurrentBssid &currentBssid) {
+bool isTrusted(const std::vector<TrustedEntry> &trusted, CurrentBssid currentBssid) {
   if (trusted.empty() || !currentBssid) return false;
   const std::optional<std::string> current = currentBssid();
   if (!current) return false;

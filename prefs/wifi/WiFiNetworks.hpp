@@ -3,11 +3,12 @@
 // into `PlatformNetwork` values and asks these functions.
 #pragma once
 
-#include <functional>
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
+
+#include "core/FunctionRef.hpp"
 
 namespace tessarin::wifi {
 
@@ -55,11 +56,11 @@ struct TrustedEntry {
 
 // The BSSID of the network the device is on now; nothing when there is no
 // current network or it reports no BSSID.
-using CurrentBssid = std::function<std::optional<std::string>()>;
+using CurrentBssid = FunctionRef<std::optional<std::string>()>;
 
 // True when the current network's BSSID equals the "bssid" of a trusted entry.
 // The match is by BSSID alone; the entry's SSID is not compared. The current
 // network is asked for only when the list is not empty.
-bool isTrusted(const std::vector<TrustedEntry> &trusted, const CurrentBssid &currentBssid);
+bool isTrusted(const std::vector<TrustedEntry> &trusted, CurrentBssid currentBssid);
 
 }  // namespace tessarin::wifi

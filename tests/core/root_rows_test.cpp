@@ -10,17 +10,15 @@ using namespace tessarin::root;
 namespace {
 
 // A device file tree with the jail root at /var/jb.
-struct FakeFiles {
+struct FakeFiles final : FileProbe {
   std::set<std::string> present;
-  std::vector<std::string> probed;
+  mutable std::vector<std::string> probed;
 
-  FileProbe probe() {
-    return {[this](std::string_view path) {
-              probed.emplace_back(path);
-              return present.count(std::string(path)) > 0;
-            },
-            [](std::string_view path) { return "/var/jb" + std::string(path); }};
+  bool exists(std::string_view path) const override {
+    probed.emplace_back(path);
+    return present.count(std::string(path)) > 0;
   }
+  std::string jailRoot(std::string_view path) const override { return "/var/jb" + std::string(path); }
 };
 
 DeviceFacts touchIdPhone() { return {true, false, false, true, true, true}; }
@@ -36,7 +34,7 @@ const std::vector<std::string> kPlist = {
 std::vector<std::string> keptIds(const DeviceFacts &device, FakeFiles &files) {
   std::vector<std::string> kept;
   for (const std::string &id : kPlist)
-    if (!id.empty() && rowAction(id, device, files.probe()) != RowAction::Drop) kept.push_back(id);
+    if (!id.empty() && rowAction(id, device, files) != RowAction::Drop) kept.push_back(id);
   return kept;
 }
 
@@ -92,12 +90,12 @@ TEST(RootRows, DeviceDependentRows) {
 // From iOS 11 (always, in Settings: checked in the app) the extras lose their footer; before, they keep it.
 TEST(RootRows, ExtrasKeepTheirFooterBeforeIos11) {
   FakeFiles files;
-  EXPECT_EQ(rowAction("EXTRAS", {true, false, false, true, true, false}, files.probe()), RowAction::Keep);
+  EXPECT_EQ(rowAction("EXTRAS", {true, false, false, true, true, false}, files), RowAction::Keep);
 }
 
 TEST(RootRows, ProbeOrderStopsAtFirstFound) {
   FakeFiles files;
-  rowAction("CONTROLCENTER", touchIdPhone(), files.probe());
+  rowAction("CONTROLCENTER", touchIdPhone(), files);
   EXPECT_EQ(files.probed, (std::vector<std::string>{
                               "/bootstrap/Library/MobileSubstrate/DynamicLibraries/FlipControlCenter.dylib",
                               "/var/jb/Library/MobileSubstrate/DynamicLibraries/FlipControlCenter.dylib",
@@ -107,12 +105,9 @@ TEST(RootRows, ProbeOrderStopsAtFirstFound) {
 
   files.probed.clear();
   files.present = {"/bootstrap/usr/lib/libflipswitch.dylib"};
-  rowAction("FLIPSWITCHES", touchIdPhone(), files.probe());
+  rowAction("FLIPSWITCHES", touchIdPhone(), files);
   EXPECT_EQ(files.probed,
             (std::vector<std::string>{"/usr/lib/libflipswitch.dylib", "/bootstrap/usr/lib/libflipswitch.dylib"}));
-
-  // A probe without functions finds nothing and does not fail.
-  EXPECT_EQ(rowAction("FLIPSWITCHES", touchIdPhone(), FileProbe{}), RowAction::Drop);
 }
 
 TEST(RootRows, DeviceAuthRow) {
@@ -156,7 +151,7 @@ TEST(RootRows, PlanWithShortPlistAppendsDeviceAuthRows) {
   facts.device = faceIdPhone();
   facts.biometricsSet = true;
   FakeFiles files;
-  const RootRowsPlan plan = planRootRows({"", "RESET_ALL"}, facts, files.probe(), nullptr);
+  const RootRowsPlan plan = planRootRows({"", "RESET_ALL"}, facts, files, nullptr);
   ASSERT_TRUE(plan.deviceAuth.has_value());
   EXPECT_EQ(plan.deviceAuth->groupIndex, 2u);
   ASSERT_EQ(plan.rows.size(), 7u);

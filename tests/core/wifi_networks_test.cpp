@@ -81,7 +81,7 @@ TEST(WiFiNetworks, Trust) {
 
 TEST(WiFiNetworks, EmptyTrustListDoesNotAskForCurrentNetwork) {
   int asked = 0;
-  const CurrentBssid current = [&] {
+  const auto current = [&] {
     ++asked;
     return std::optional<std::string>("aa:aa:aa:aa:aa:aa");
   };
