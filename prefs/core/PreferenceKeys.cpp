@@ -37,26 +37,6 @@ std::optional<std::string> readString(const plist::Value *v) {
     return std::nullopt;
 }
 
-std::vector<std::string> readStringArray(const plist::Value *v) {
-    std::vector<std::string> out;
-    if (!v) return out;
-    if (const auto *a = v->asArray()) {
-        for (const plist::Value &e : *a)
-            if (const std::string *s = e.asString()) out.push_back(*s);
-    }
-    return out;
-}
-
-std::vector<plist::Value> readDictionaryArray(const plist::Value *v) {
-    std::vector<plist::Value> out;
-    if (!v) return out;
-    if (const auto *a = v->asArray()) {
-        for (const plist::Value &e : *a)
-            if (e.isDictionary()) out.push_back(e);
-    }
-    return out;
-}
-
 bool readBoolForKey(std::string_view key, const plist::Value *v) {
     const PreferenceKey *k = findPreferenceKey(key);
     const bool absent = k && k->absent == Absent::Value ? k->absentBool : false;

@@ -169,11 +169,6 @@ bool readBool(const plist::Value *v, bool absent);
 int64_t readInteger(const plist::Value *v, int64_t absent);
 // nullopt when absent or not a string; the empty string is a value.
 std::optional<std::string> readString(const plist::Value *v);
-// The string entries of an array, in order (other entries skipped); empty
-// when absent or not an array.
-std::vector<std::string> readStringArray(const plist::Value *v);
-// The dictionary entries of an array, in order (other entries skipped).
-std::vector<plist::Value> readDictionaryArray(const plist::Value *v);
 
 // Table-driven forms: the absent value comes from the key's entry (false
 // and 0 for keys outside the table or whose page decides).

@@ -1,40 +1,43 @@
 #include "core/ProtectedList.hpp"
 
 #include <algorithm>
-
-#include "core/PreferenceKeys.hpp"
+#include <string>
 
 namespace tessarin {
 
-std::vector<std::string> toggled(const plist::Value *stored, std::string_view item, bool on) {
-    std::vector<std::string> list = readStringArray(stored);
-    if (on) {
-        if (std::find(list.begin(), list.end(), item) == list.end()) list.emplace_back(item);
-    } else {
-        list.erase(std::remove(list.begin(), list.end(), item), list.end());
-    }
-    return list;
+namespace {
+
+bool isItem(const plist::Value &entry, std::optional<std::string_view> item) {
+    const std::string *text = entry.asString();
+    return item && text != nullptr && *text == *item;
 }
 
-ProtectedListEdit protectedListEdit(const plist::Value *stored, std::string_view item, bool on) {
-    ProtectedListEdit edit;
-    edit.store = !on || !protectedListContains(stored, item);
-    edit.list = toggled(stored, item, on);
-    return edit;
+plist::Value::Array storedEntries(const plist::Value *stored) {
+    if (stored != nullptr)
+        if (const plist::Value::Array *entries = stored->asArray()) return *entries;
+    return {};
+}
+
+}  // namespace
+
+ProtectedListEdit protectedListEdit(const plist::Value *stored, std::optional<std::string_view> item, bool on) {
+    plist::Value::Array entries = storedEntries(stored);
+    const bool present =
+        std::any_of(entries.begin(), entries.end(), [&](const plist::Value &entry) { return isItem(entry, item); });
+    if (on) {
+        if (!present && item) entries.push_back(plist::Value::string(std::string(*item)));
+    } else {
+        entries.erase(std::remove_if(entries.begin(), entries.end(),
+                                     [&](const plist::Value &entry) { return isItem(entry, item); }),
+                      entries.end());
+    }
+    return ProtectedListEdit{!on || !present, plist::Value::array(std::move(entries))};
 }
 
 bool protectedListContains(const plist::Value *stored, std::string_view item) {
-    const std::vector<std::string> list = readStringArray(stored);
-    return std::find(list.begin(), list.end(), item) != list.end();
-}
-
-plist::Value appendTrusted(const plist::Value *stored, std::string_view bssid, std::string_view ssid) {
-    plist::Value list = plist::Value::array(readDictionaryArray(stored));
-    plist::Value entry = plist::Value::dictionary();
-    entry.set("bssid", plist::Value::string(std::string(bssid)));
-    entry.set("ssid", plist::Value::string(std::string(ssid)));
-    list.append(std::move(entry));
-    return list;
+    const plist::Value::Array *entries = stored != nullptr ? stored->asArray() : nullptr;
+    return entries != nullptr &&
+           std::any_of(entries->begin(), entries->end(), [&](const plist::Value &entry) { return isItem(entry, item); });
 }
 
 }  // namespace tessarin

@@ -10,9 +10,11 @@
 extern "C" {
 // Reads the entry's list, applies the switch, stores the list when the rule
 // says so and posts the change signal once either way (when the entry's
-// writes are announced, as every list's are). A nil item is ignored.
-void switchProtectedItem(NSString *item, BOOL on, const tessarin::PreferenceKey *entry);
-// Whether the item is in the entry's stored list.
-BOOL isProtectedItem(NSString *item, const tessarin::PreferenceKey *entry);
+// writes are announced, as every list's are). An item that is nil or not a
+// string switches nothing, but the list is still stored and the change posted,
+// as for an item that is never there.
+void switchProtectedItem(id item, BOOL on, const tessarin::PreferenceKey *entry);
+// Whether the item (a string) is in the entry's stored list.
+BOOL isProtectedItem(id item, const tessarin::PreferenceKey *entry);
 }
 #endif

@@ -1,37 +1,25 @@
 #import "core/ProtectedListStore.h"
 #import "core/PlistBridge.h"
 #import "core/PreferenceStore.h"
-#include <string>
+#import "core/Strings.h"
 #include "core/ProtectedList.hpp"
 
-namespace {
-
-std::string itemText(NSString *item) {
-  const char *utf8 = [item UTF8String];
-  return utf8 != NULL ? std::string(utf8) : std::string();
-}
-
-}  // namespace
-
-void switchProtectedItem(NSString *item, BOOL on, const tessarin::PreferenceKey *entry) {
-  if (item == nil || entry == NULL) return;
+void switchProtectedItem(id item, BOOL on, const tessarin::PreferenceKey *entry) {
+  if (entry == NULL) return;
   const std::optional<tessarin::plist::Value> stored = plistValueFromObject(storedPreference(entry));
-  const tessarin::ProtectedListEdit edit =
-      tessarin::protectedListEdit(stored ? &*stored : nullptr, itemText(item), on);
+  const std::optional<std::string> text = utf8String(item);
+  const tessarin::ProtectedListEdit edit = tessarin::protectedListEdit(
+      stored ? &*stored : nullptr, text ? std::optional<std::string_view>(*text) : std::nullopt, on);
   if (edit.store) {
-    NSMutableArray *list = [NSMutableArray arrayWithCapacity:edit.list.size()];
-    for (const std::string &entryText : edit.list) {
-      NSString *text = [NSString stringWithUTF8String:entryText.c_str()];
-      if (text != nil) [list addObject:text];
-    }
-    storePreference(list, entry);
+    storePreference(objectFromPlistValue(edit.list), entry);
   } else if (tessarin::postsChangeSignal(*entry)) {
     postPrefsChanged();
   }
 }
 
-BOOL isProtectedItem(NSString *item, const tessarin::PreferenceKey *entry) {
-  if (item == nil || entry == NULL) return NO;
+BOOL isProtectedItem(id item, const tessarin::PreferenceKey *entry) {
+  const std::optional<std::string> text = utf8String(item);
+  if (!text || entry == NULL) return NO;
   const std::optional<tessarin::plist::Value> stored = plistValueFromObject(storedPreference(entry));
-  return tessarin::protectedListContains(stored ? &*stored : nullptr, itemText(item)) ? YES : NO;
+  return tessarin::protectedListContains(stored ? &*stored : nullptr, *text) ? YES : NO;
 }

@@ -9,6 +9,8 @@
 #include <unordered_set>
 #include <vector>
 
+#include "lists/InfoValue.hpp"
+
 namespace tessarin::lists {
 
 // The scanned directories, in scan order.
@@ -36,18 +38,6 @@ bool holdsContainers(AppSource source);
 // (no dot required); elsewhere every entry.
 bool isCandidateEntry(AppSource source, std::string_view entry, bool insideContainer);
 
-// A value of a bundle's information dictionary.
-struct InfoValue {
-    enum class Kind { Absent, String, Other };
-    Kind kind = Kind::Absent;
-    std::string text;  // when a string
-
-    static InfoValue absent() { return {}; }
-    static InfoValue string(std::string s) { return {Kind::String, std::move(s)}; }
-    static InfoValue other() { return {Kind::Other, {}}; }
-    bool isString() const { return kind == Kind::String; }
-};
-
 // The name before localisation: the display name, else the name, else the
 // executable (the first that is present, whatever its type); a string has every
 // "~iphone" removed.
@@ -56,9 +46,14 @@ InfoValue infoName(const InfoValue &displayName, const InfoValue &name, const In
 // Every occurrence of "~iphone" removed.
 std::string withoutIphoneSuffix(std::string_view name);
 
-// Whether the name is localised through the bundle's "InfoPlist" table (with
-// the name as default value): only string names are.
-inline bool localisesName(const InfoValue &name) { return name.isString(); }
+// Whether the name is localised through the bundle's "InfoPlist" table (with the
+// name as default value): in the container root only a string name is; elsewhere
+// any name that is present, so a name of the wrong type still takes the table's
+// string when the bundle has one.
+inline bool localisesName(AppSource source, const InfoValue &name) {
+    if (source == AppSource::ContainerRoot) return name.isString();
+    return name.kind != InfoValue::Kind::Absent;
+}
 
 // The identifiers SpringBoard offers for protection ("apps" of the "appL"
 // reply): none when it gave no usable answer, in which case every application

@@ -1,6 +1,7 @@
 #include "lists/ControlCenterItems.hpp"
 
 #include <algorithm>
+#include <cmath>
 
 namespace tessarin::lists {
 
@@ -104,17 +105,48 @@ const std::string_view kCCSettingsFixedOrder[21] = {
     "killbackground", "clearBadge", "shutdown", "reboot", "respring", "screenShot", "data",
 };
 
+namespace {
+
+// Where a position sorts: numbers by value first (as NSNumber compares them), then
+// strings, then whatever else the file holds. Positions are meant to be numbers; the
+// others only need a place, not to be lost.
+int positionRank(const plist::Value &position) {
+    if (std::optional<double> number = position.numberValue()) return std::isnan(*number) ? 1 : 0;
+    if (position.isString()) return 2;
+    return 3;
+}
+
+bool positionBefore(const plist::Value &a, const plist::Value &b) {
+    const int rankA = positionRank(a), rankB = positionRank(b);
+    if (rankA != rankB) return rankA < rankB;
+    if (rankA == 0) return *a.numberValue() < *b.numberValue();
+    if (rankA == 2) return *a.asString() < *b.asString();
+    return false;
+}
+
+// As the numbers' own equality, but a NaN is the same position as a NaN, so that its
+// key is listed.
+bool samePosition(const plist::Value &a, const plist::Value &b) {
+    if (a.isNumber() && b.isNumber()) {
+        const double x = *a.numberValue(), y = *b.numberValue();
+        return x == y || (std::isnan(x) && std::isnan(y));
+    }
+    return a == b;
+}
+
+}  // namespace
+
 std::vector<std::string> ccSettingsOrder(const plist::Value *orderFile) {
     const plist::Value::Dictionary *entries = orderFile ? orderFile->asDictionary() : nullptr;
     if (entries == nullptr) return {std::begin(kCCSettingsFixedOrder), std::end(kCCSettingsFixedOrder)};
-    std::vector<double> positions;
-    for (const plist::Value::Entry &e : *entries)
-        if (std::optional<double> p = e.second.numberValue(); p && *p == *p) positions.push_back(*p);  // NaN has no place
-    std::sort(positions.begin(), positions.end());
+    std::vector<const plist::Value *> positions;
+    for (const plist::Value::Entry &e : *entries) positions.push_back(&e.second);
+    std::stable_sort(positions.begin(), positions.end(),
+                     [](const plist::Value *a, const plist::Value *b) { return positionBefore(*a, *b); });
     std::vector<std::string> order;
-    for (double position : positions)
+    for (const plist::Value *position : positions)
         for (const plist::Value::Entry &e : *entries)
-            if (e.second.numberValue() == position) order.push_back(e.first);
+            if (samePosition(e.second, *position)) order.push_back(e.first);
     return order;
 }
 

@@ -92,7 +92,8 @@ extern const std::string_view kCCSettingsFixedOrder[21];
 // The toggle order from the order file (nullptr or not a dictionary: the fixed
 // list): the positions sorted ascending, and for each position every key that
 // holds it, in key order; so a position shared by two keys lists both, twice.
-// Entries whose value is not a number have no position.
+// Positions that are not numbers (a hand-edited file) sort after the numbers, strings
+// first, and keep their keys: a toggle is never dropped from the page.
 std::vector<std::string> ccSettingsOrder(const plist::Value *orderFile);
 
 }  // namespace tessarin::lists

@@ -3,11 +3,11 @@
 namespace tessarin::lists {
 
 std::optional<std::string> folderRowName(const std::optional<std::string> &folderType,
-                                         const std::optional<std::string> &defaultDisplayName,
-                                         const std::optional<std::string> &displayName) {
+                                         const InfoValue &defaultDisplayName, const InfoValue &displayName) {
     if (folderType && *folderType == kNewsstandType) return std::string(kNewsstandName);
-    if (defaultDisplayName) return defaultDisplayName;
-    return displayName;
+    const InfoValue &name = defaultDisplayName.isPresent() ? defaultDisplayName : displayName;
+    if (!name.isString()) return std::nullopt;
+    return name.text;
 }
 
 PictureRect folderIconFrame(size_t index) {

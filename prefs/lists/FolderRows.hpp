@@ -7,6 +7,8 @@
 #include <string>
 #include <string_view>
 
+#include "lists/InfoValue.hpp"
+
 namespace tessarin::lists {
 
 // The literal name of the newsstand folder's row, and the "folderType" and
@@ -17,10 +19,11 @@ inline constexpr const char *kNewsstandImage = "NewsstandIconInternational";
 inline constexpr const char *kSpringBoardBundle = "/System/Library/CoreServices/SpringBoard.app";
 
 // A folder row's name: "newsstand" for the newsstand folder, else its default
-// name when it has one, else its display name (none when it has neither).
+// name when it is present, else its display name. A present name that is not a
+// string (the page shows a number as its digits) gives a row without a name, as
+// a folder with neither name does.
 std::optional<std::string> folderRowName(const std::optional<std::string> &folderType,
-                                         const std::optional<std::string> &defaultDisplayName,
-                                         const std::optional<std::string> &displayName);
+                                         const InfoValue &defaultDisplayName, const InfoValue &displayName);
 
 struct PictureRect {
     double x, y, width, height;

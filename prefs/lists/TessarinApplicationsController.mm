@@ -12,10 +12,15 @@ namespace {
 
 namespace lists = tessarin::lists;
 
-lists::InfoValue infoValue(id object) {
-  if (object == nil) return lists::InfoValue::absent();
-  std::optional<std::string> text = utf8String(object);
-  return text ? lists::InfoValue::string(*text) : lists::InfoValue::other();
+// The name through the bundle's "InfoPlist" table. A name of the wrong type is not
+// handed to the lookup as its default: it stays what it was unless the table names
+// the application.
+lists::InfoValue localisedName(NSBundle *bundle, const lists::InfoValue &name) {
+  static NSString *const notInTable = @"\x01not in the table";
+  NSString *fallback = name.isString() ? nsString(name.text) : notInTable;
+  NSString *localised = [bundle localizedStringForKey:@"CFBundleDisplayName" value:fallback table:@"InfoPlist"];
+  if (!name.isString() && [localised isEqual:notInTable]) return name;
+  return nameValue(localised);
 }
 
 // The candidate bundles of one source, as device paths, in directory order.
@@ -69,14 +74,10 @@ lists::AllowedApplications allowedApplications() {
       NSBundle *bundle = [NSBundle bundleWithPath:devicePath(path)];
       if (bundle == nil) continue;
       NSDictionary *info = [bundle infoDictionary];
-      lists::InfoValue name = lists::infoName(infoValue([info objectForKey:@"CFBundleDisplayName"]),
-                                              infoValue([info objectForKey:@"CFBundleName"]),
-                                              infoValue([info objectForKey:@"CFBundleExecutable"]));
-      if (lists::localisesName(name)) {
-        name = infoValue([bundle localizedStringForKey:@"CFBundleDisplayName"
-                                                 value:nsString(name.text)
-                                                 table:@"InfoPlist"]);
-      }
+      lists::InfoValue name = lists::infoName(nameValue([info objectForKey:@"CFBundleDisplayName"]),
+                                              nameValue([info objectForKey:@"CFBundleName"]),
+                                              nameValue([info objectForKey:@"CFBundleExecutable"]));
+      if (lists::localisesName(source, name)) name = localisedName(bundle, name);
       NSString *identifier = [bundle bundleIdentifier];
       std::optional<std::string> listed = listing.consider(source, name, utf8String(identifier));
       if (!listed) continue;

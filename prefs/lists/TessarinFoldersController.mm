@@ -47,8 +47,8 @@ UIImage *newsstandImage() {
       }
       std::optional<std::string> name =
           lists::folderRowName(utf8String([folder objectForKey:@"folderType"]),
-                               utf8String([folder objectForKey:@"defaultDisplayName"]), utf8String(displayName));
-      if (name) [row setName:nsString(*name)];
+                               nameValue([folder objectForKey:@"defaultDisplayName"]), nameValue(displayName));
+      [row setName:name ? nsString(*name) : nil];
 
       UIImage *picture = nil;
       if ([[folder objectForKey:@"folderType"] isEqual:@(lists::kNewsstandType)]) {

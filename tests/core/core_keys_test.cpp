@@ -139,8 +139,8 @@ TEST(PreferenceKeys, FirstRunDomainReadsAsDefaults) {
     EXPECT_FALSE(readBoolForKey(key::kKeepSession.key, domain.find(key::kKeepSession.key)));
     EXPECT_EQ(readIntegerForKey(key::kIconColor.key, domain.find(key::kIconColor.key)), 4);
     EXPECT_EQ(readString(domain.find(key::kPasscode.key)), std::nullopt);
-    EXPECT_TRUE(readStringArray(domain.find(key::kProtected.key)).empty());
-    EXPECT_TRUE(readDictionaryArray(domain.find(key::kAllowedWiFis.key)).empty());
+    EXPECT_EQ(domain.find(key::kProtected.key), nullptr);
+    EXPECT_EQ(domain.find(key::kAllowedWiFis.key), nullptr);
 }
 
 TEST(PreferenceKeys, BooleanReader) {
@@ -191,54 +191,11 @@ TEST(PreferenceKeys, IntegerReader) {
     EXPECT_EQ(readIntegerForKey("unknownKey", nullptr), 0);
 }
 
-TEST(PreferenceKeys, StringAndListReaders) {
+TEST(PreferenceKeys, StringReader) {
     const Value empty = Value::string("");
     EXPECT_EQ(readString(&empty), std::string());  // distinct from absent
     const Value number = Value::integer(1234);
     EXPECT_EQ(readString(&number), std::nullopt);
-    const Value mixed = Value::array({Value::string("a"), Value::integer(1), Value::dictionary(), Value::string("b")});
-    EXPECT_EQ(readStringArray(&mixed), list({"a", "b"}));
-    EXPECT_EQ(readDictionaryArray(&mixed).size(), 1u);
-    const Value notList = Value::string("a");
-    EXPECT_TRUE(readStringArray(&notList).empty());
-}
-
-TEST(ProtectedList, ToggleRule) {
-    struct Case {
-        const char *name;
-        std::optional<Value> stored;
-        const char *item;
-        bool on;
-        std::vector<std::string> expected;
-    };
-    const Case cases[] = {
-        {"on into nothing", std::nullopt, "a", true, list({"a"})},
-        {"on appends at end", strings({"b", "c"}), "a", true, list({"b", "c", "a"})},
-        {"on when present keeps order", strings({"a", "b"}), "a", true, list({"a", "b"})},
-        {"off removes every copy", strings({"a", "b", "a", "a"}), "a", false, list({"b"})},
-        {"off when absent still stores", strings({"b"}), "a", false, list({"b"})},
-        {"off from nothing", std::nullopt, "a", false, list({})},
-        {"wrong type counts as empty", Value::string("a"), "b", true, list({"b"})},
-        {"non-strings dropped", Value::array({Value::integer(1), Value::string("x")}), "y", true, list({"x", "y"})},
-        {"empty item is an item", strings({"a"}), "", true, list({"a", ""})},
-    };
-    for (const Case &c : cases)
-        EXPECT_EQ(toggled(c.stored ? &*c.stored : nullptr, c.item, c.on), c.expected) << c.name;
-}
-
-TEST(ProtectedList, TrustedNetworksAppendWithoutPresenceTest) {
-    Value stored = appendTrusted(nullptr, "aa:bb", "Home");
-    ASSERT_EQ(stored.size(), 1u);
-    stored = appendTrusted(&stored, "aa:bb", "Home");
-    ASSERT_EQ(stored.size(), 2u);
-    EXPECT_EQ(*stored.at(0), *stored.at(1));
-    EXPECT_EQ(*stored.at(0)->find("bssid")->asString(), "aa:bb");
-    EXPECT_EQ(*stored.at(0)->find("ssid")->asString(), "Home");
-    EXPECT_EQ(stored.at(0)->size(), 2u);
-    const Value junk = Value::array({Value::string("x"), Value::dictionary({{"ssid", Value::string("Old")}})});
-    const Value next = appendTrusted(&junk, "ff:ff:ff:ff:ff:ff", "Cafe");
-    ASSERT_EQ(next.size(), 2u);
-    EXPECT_EQ(*next.at(0)->find("ssid")->asString(), "Old");
 }
 
 // A row of a specifier plist that stores a value carries a key of the table,

@@ -1,8 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <optional>
-#include <string>
-#include <vector>
 
 #include "core/ProtectedList.hpp"
 #include "core_test_print.hpp"
@@ -21,24 +19,31 @@ TEST(ProtectedListEdit, StoresOnlyWhatTheSwitchChanges) {
         const char *item;
         bool on;
         bool store;
-        std::vector<std::string> list;
+        Value list;
     };
+    const Value junk = Value::dictionary({{"x", Value::integer(1)}});
     const Case cases[] = {
-        {"on into a missing list", std::nullopt, "a", true, true, list({"a"})},
-        {"on appends in switching order", strings({"c", "b"}), "a", true, true, list({"c", "b", "a"})},
-        {"on when present stores nothing", strings({"a", "b"}), "a", true, false, list({"a", "b"})},
-        {"on when present among junk stores nothing", Value::array({Value::integer(3), Value::string("a")}), "a",
-         true, false, list({"a"})},
-        {"off removes every copy", strings({"a", "b", "a"}), "a", false, true, list({"b"})},
-        {"off when absent still stores", strings({"b"}), "a", false, true, list({"b"})},
-        {"off from a missing list stores an empty list", std::nullopt, "a", false, true, list({})},
-        {"off of the last item stores an empty list", strings({"a"}), "a", false, true, list({})},
-        {"wrong-typed value is replaced on", Value::string("a"), "a", true, true, list({"a"})},
-        {"wrong-typed value is replaced off", Value::dictionary(), "a", false, true, list({})},
+        {"on into a missing list", std::nullopt, "a", true, true, strings({"a"})},
+        {"on appends in switching order", strings({"c", "b"}), "a", true, true, strings({"c", "b", "a"})},
+        {"on when present stores nothing", strings({"a", "b"}), "a", true, false, strings({"a", "b"})},
+        {"off removes every copy", strings({"a", "b", "a"}), "a", false, true, strings({"b"})},
+        {"off when absent still stores", strings({"b"}), "a", false, true, strings({"b"})},
+        {"off from a missing list stores an empty list", std::nullopt, "a", false, true, strings({})},
+        {"off of the last item stores an empty list", strings({"a"}), "a", false, true, strings({})},
+        {"wrong-typed value is replaced on", Value::string("a"), "a", true, true, strings({"a"})},
+        {"wrong-typed value is replaced off", Value::dictionary(), "a", false, true, strings({})},
         {"items compare exactly", strings({"com.Example"}), "com.example", true, true,
-         list({"com.Example", "com.example"})},
-        {"a name with spaces is one item", strings({"Wi-Fi"}), "Screen Time", true, true,
-         list({"Wi-Fi", "Screen Time"})},
+         strings({"com.Example", "com.example"})},
+        {"an empty item is an item", strings({"a"}), "", true, true, strings({"a", ""})},
+        // What the page does not understand stays where it was.
+        {"on keeps other entries in place", Value::array({Value::integer(3), Value::string("b"), junk}), "a", true,
+         true, Value::array({Value::integer(3), Value::string("b"), junk, Value::string("a")})},
+        {"on when present among junk stores nothing", Value::array({Value::integer(3), Value::string("a")}), "a",
+         true, false, Value::array({Value::integer(3), Value::string("a")})},
+        {"off keeps other entries in place", Value::array({Value::string("a"), Value::integer(3), junk}), "a", false,
+         true, Value::array({Value::integer(3), junk})},
+        {"a number is not the item of its digits", Value::array({Value::integer(1)}), "1", true, true,
+         Value::array({Value::integer(1), Value::string("1")})},
     };
     for (const Case &c : cases) {
         const ProtectedListEdit edit = protectedListEdit(c.stored ? &*c.stored : nullptr, c.item, c.on);

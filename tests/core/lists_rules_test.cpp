@@ -3,6 +3,7 @@
 // the CCSettings titles and order.
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <optional>
 #include <string>
 #include <vector>
@@ -78,7 +79,8 @@ TEST(ApplicationScan, NameRule) {
         const InfoValue v = infoName(c.display, c.bundleName, c.executable);
         EXPECT_EQ(v.kind, c.kind);
         EXPECT_EQ(v.text, c.text);
-        EXPECT_EQ(localisesName(v), c.kind == K::String);
+        EXPECT_EQ(localisesName(AppSource::ContainerRoot, v), c.kind == K::String);
+        EXPECT_EQ(localisesName(AppSource::Applications, v), c.kind != K::Absent);
     }
 }
 
@@ -144,21 +146,26 @@ TEST(ApplicationScan, ListingBySource) {
 }
 
 TEST(FolderRows, RowName) {
+    const InfoValue absent = InfoValue::absent(), other = InfoValue::other();
+    auto s = [](const char *t) { return InfoValue::string(t); };
     struct Case {
-        std::optional<std::string> type, defaultName, displayName, expected;
+        const char *name;
+        std::optional<std::string> type;
+        InfoValue defaultName, displayName;
+        std::optional<std::string> expected;
     };
     const Case cases[] = {
-        {some("newsstand"), some("Zeitungen"), some("News"), some("newsstand")},
-        {some("newsstand"), none, none, some("newsstand")},
-        {some("regular"), some("Games"), some("My games"), some("Games")},
-        {none, none, some("Work"), some("Work")},
-        {none, some(""), some("Work"), some("")},  // an empty default name is present
-        {some("Newsstand"), none, some("Papers"), some("Papers")},  // exact type only
-        {none, none, none, none},
+        {"newsstand by type", some("newsstand"), s("Zeitungen"), s("News"), some("newsstand")},
+        {"newsstand without names", some("newsstand"), absent, absent, some("newsstand")},
+        {"default name first", some("regular"), s("Games"), s("My games"), some("Games")},
+        {"then display name", none, absent, s("Work"), some("Work")},
+        {"an empty default name is present", none, s(""), s("Work"), some("")},
+        {"exact type only", some("Newsstand"), absent, s("Papers"), some("Papers")},
+        {"no names", none, absent, absent, none},
+        {"a default name of another type is still the one taken", none, other, s("Work"), none},
+        {"a display name of another type", none, absent, other, none},
     };
-    for (const Case &c : cases)
-        EXPECT_EQ(folderRowName(c.type, c.defaultName, c.displayName), c.expected)
-            << c.displayName.value_or("(none)");
+    for (const Case &c : cases) EXPECT_EQ(folderRowName(c.type, c.defaultName, c.displayName), c.expected) << c.name;
 }
 
 TEST(FolderRows, IconFrames) {
@@ -307,8 +314,11 @@ TEST(CCSettings, Order) {
          list({"c", "b", "a", "b", "a"})},
         {"integers and reals compare by value",
          dict({{"x", Value::real(1.5)}, {"y", Value::integer(1)}, {"z", Value::integer(2)}}), list({"y", "x", "z"})},
-        {"values that are not numbers have no position",
-         dict({{"x", Value::string("1")}, {"y", Value::integer(3)}}), list({"y"})},
+        {"positions that are not numbers come after the numbers, strings first",
+         dict({{"d", Value::dictionary()}, {"s", Value::string("1")}, {"y", Value::integer(3)}}),
+         list({"y", "s", "d"})},
+        {"a NaN position keeps its key", dict({{"n", Value::real(std::nan(""))}, {"y", Value::integer(3)}}),
+         list({"y", "n"})},
         {"an empty file lists nothing", dict({}), list({})},
     };
     for (const Case &c : cases) EXPECT_EQ(ccSettingsOrder(c.file ? &*c.file : nullptr), c.order) << c.name;

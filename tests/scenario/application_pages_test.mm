@@ -72,12 +72,17 @@ TEST_F(ApplicationPagesTest, NamesFollowTheInfoDictionaryAndItsStrings) {
         @{@"source" : @"Applications", @"bundle" : @"Loc.app", @"info" : info(@"com.test.loc", @"Raw~iphone"),
           @"strings" : @{@"en" : @{@"CFBundleDisplayName" : @"Localised"}}},
         app(@"Applications", @"Typed.app", @{@"CFBundleIdentifier" : @"com.test.typed", @"CFBundleDisplayName" : @(7)}),
+        // Outside the container root a name of the wrong type still takes its strings' name.
+        @{@"source" : @"Binpack", @"bundle" : @"Seven.app",
+          @"info" : @{@"CFBundleIdentifier" : @"com.test.seven", @"CFBundleDisplayName" : @(7)},
+          @"strings" : @{@"en" : @{@"CFBundleDisplayName" : @"Seven"}}},
         app(@"Applications", @"Empty.app", nil),
         app(@"Containers", @"Bare.app", @{@"CFBundleIdentifier" : @"com.test.bare"}, @"BBBB"),
         app(@"Containers", @"TypedToo.app", @{@"CFBundleIdentifier" : @"com.test.typed2", @"CFBundleName" : @[]}, @"CCCC"),
     ];
     Start(installed, nil);
-    NSArray *expected = @[ @"com.test.bare", @"com.test.typed2", @"Localised", @"Maps", @"Old Game", @"Runner", @"Tool" ];
+    NSArray *expected =
+        @[ @"com.test.bare", @"com.test.typed2", @"Localised", @"Maps", @"Old Game", @"Runner", @"Seven", @"Tool" ];
     EXPECT_NSEQ(Names(Open()), expected);
     // The first rows are the explanation's group and the empty group above the applications.
     NSArray *rows = [Open() specifiers];

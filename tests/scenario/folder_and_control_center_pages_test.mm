@@ -187,6 +187,29 @@ TEST_F(ListPagesTest, SameNamedFoldersSwitchTogetherAndStoreOneName) {
     EXPECT_FALSE([[switches objectAtIndex:1] isOn]);
 }
 
+// A default name of another type is still the name taken, and it is no name: such a row,
+// like one of a folder without names, switches no name but stores its list and posts.
+TEST_F(ListPagesTest, AFolderWithoutAUsableNameStoresTheListUnchanged) {
+    StartDevice(SIM_DEFAULT_PROFILE, true, ^(NSMutableDictionary *profile) {
+        NSMutableDictionary *typed = [[folder(@"Shown", apps(1)) mutableCopy] autorelease];
+        [typed setObject:@(42) forKey:@"defaultDisplayName"];
+        [profile setObject:@[ typed, folder(nil, apps(1)), folder(@"Work", apps(1)) ] forKey:@"folders"];
+    });
+    PSListController *page = Open(@"TessarinFoldersController");
+    EXPECT_NSEQ(Names(page), (@[ [NSNull null], [NSNull null], @"Work" ]));
+    NSArray *stored = @[ @(7), @"Work" ];
+    BundleSymbol<void (*)(id, const char *)>("setPrefsValueForKey")(stored, "protectedFolders");
+    for (PSSpecifier *row in [Switches(page) subarrayWithRange:NSMakeRange(0, 2)]) {
+        for (NSNumber *on in @[ @(YES), @(NO) ]) {
+            const unsigned posts = SimNotifyPostCount(tessarin::kPrefsChangedNotification);
+            [row performSetterWithValue:on];
+            EXPECT_NSEQ([StoredPreferences() objectForKey:@"protectedFolders"], stored);
+            EXPECT_EQ(SimNotifyPostCount(tessarin::kPrefsChangedNotification), posts + 1);
+            EXPECT_NSEQ([page performSelector:@selector(getFolderProtectEnabledForSpecifier:) withObject:row], @(NO));
+        }
+    }
+}
+
 TEST_F(ListPagesTest, WithoutSpringBoardTheFoldersPageHasOnlyItsText) {
     StartDevice(SIM_DEFAULT_PROFILE, false);
     PSListController *page = Open(@"TessarinFoldersController");
@@ -272,7 +295,7 @@ TEST_F(ListPagesTest, AddOnModulesNeedCCSupport) {
 // from the platform's caches of the first.
 struct OrderCase {
     const char *what;
-    int order;  // 0: no file, 1: unreadable, 2: a shared position
+    int order;  // 0: no file, 1: unreadable, 2: a shared position, 3: positions that are not numbers
 };
 void PrintTo(const OrderCase &c, std::ostream *out) { *out << c.what; }
 
@@ -284,9 +307,11 @@ TEST_P(CCSettingsPageTest, RowsFollowTheOrderFile) {
                         @"hotspot", @"VPN", @"autoLock", @"orientationLock", @"vibrate", @"mute", @"dataRate",
                         @"killbackground", @"clearBadge", @"shutdown", @"reboot", @"respring", @"screenShot", @"data" ];
     id orders[] = {nil, [@"not a plist" dataUsingEncoding:NSUTF8StringEncoding],
-                   @{@"dataRate" : @(2), @"wifi" : @(0), @"VPN" : @(2)}};
+                   @{@"dataRate" : @(2), @"wifi" : @(0), @"VPN" : @(2)},
+                   @{@"dataRate" : @"1", @"wifi" : @(0), @"VPN" : @{}}};
     // Keys in the file's order (the stand-in writes plists with sorted keys).
-    NSArray *expected[] = {fixed, fixed, @[ @"wifi", @"VPN", @"dataRate", @"VPN", @"dataRate" ]};
+    NSArray *expected[] = {fixed, fixed, @[ @"wifi", @"VPN", @"dataRate", @"VPN", @"dataRate" ],
+                           @[ @"wifi", @"dataRate", @"VPN" ]};
     const int which = GetParam().order;
     id order = orders[which];
     StartDevice(SIM_DEFAULT_PROFILE, false, ^(NSMutableDictionary *profile) {
@@ -315,7 +340,10 @@ TEST_P(CCSettingsPageTest, RowsFollowTheOrderFile) {
 }
 
 const OrderCase kOrderCases[] = {
-    {"NoOrderFileGivesTheFixedList", 0}, {"AnUnreadableOrderFileGivesTheFixedList", 1}, {"ASharedPositionIsListedTwice", 2}};
+    {"NoOrderFileGivesTheFixedList", 0},
+    {"AnUnreadableOrderFileGivesTheFixedList", 1},
+    {"ASharedPositionIsListedTwice", 2},
+    {"PositionsThatAreNotNumbersComeLastAndKeepTheirToggles", 3}};
 INSTANTIATE_TEST_SUITE_P(Orders, CCSettingsPageTest, ::testing::ValuesIn(kOrderCases),
                          [](const ::testing::TestParamInfo<OrderCase> &info) { return std::string(info.param.what); });
 

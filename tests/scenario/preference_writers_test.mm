@@ -36,14 +36,16 @@ NSString *stringOf(std::string_view s) {
     return [[[NSString alloc] initWithBytes:s.data() length:s.size() encoding:NSUTF8StringEncoding] autorelease];
 }
 
-// A value of the entry's type that no writer below stores.
+// A value of the entry's type that no writer below stores. Lists also hold entries no
+// page understands (another version's, a hand edit's): a switch must keep them.
 id seedValue(const PreferenceKey &entry) {
     switch (entry.type) {
     case tessarin::KeyType::Boolean: return @(NO);
     case tessarin::KeyType::Integer: return @(1);
     case tessarin::KeyType::String: return @"seed";
-    case tessarin::KeyType::StringArray: return @[ @"seed.identifier" ];
-    case tessarin::KeyType::DictionaryArray: return @[ @{@"bssid" : @"02:00:00:00:00:01", @"ssid" : @"Seed"} ];
+    case tessarin::KeyType::StringArray: return @[ @(3), @"seed.identifier", @{@"x" : @(1)} ];
+    case tessarin::KeyType::DictionaryArray:
+        return @[ @"junk", @{@"bssid" : @"02:00:00:00:00:01", @"ssid" : @"Seed"} ];
     }
     return nil;
 }
@@ -220,9 +222,10 @@ TEST_F(PreferenceWritersTest, ListSwitchesAndTheTitleWriteTheirKeyAndPostOnce) {
         id expected;
     };
     const Case cases[] = {
-        {"TessarinProtectedSpecsController", key::kProtectedSettings, @"WIFI", @[ @"seed.identifier", @"WIFI" ]},
+        {"TessarinProtectedSpecsController", key::kProtectedSettings, @"WIFI",
+         [seedValue(key::kProtectedSettings) arrayByAddingObject:@"WIFI"]},
         {"TessarinFlipswitchController", key::kProtectedSwitches, @"org.toggles.vpn",
-         @[ @"seed.identifier", @"org.toggles.vpn" ]},
+         [seedValue(key::kProtectedSwitches) arrayByAddingObject:@"org.toggles.vpn"]},
     };
     for (const Case &c : cases) {
         SCOPED_TRACE(std::string(c.entry.key));

@@ -8,8 +8,8 @@
 
 namespace {
 
-using SwitchItem = void (*)(NSString *, BOOL, const tessarin::PreferenceKey *);
-using IsProtected = BOOL (*)(NSString *, const tessarin::PreferenceKey *);
+using SwitchItem = void (*)(id, BOOL, const tessarin::PreferenceKey *);
+using IsProtected = BOOL (*)(id, const tessarin::PreferenceKey *);
 using SetValue = void (*)(id, const char *);
 
 }  // namespace
@@ -38,6 +38,8 @@ TEST_F(ProtectedListStoreTest, EachSwitchStoresAsTheRuleSaysAndPostsOnce) {
         {"off removes every copy", @[ @"Wi-Fi", @"BLUETOOTH", @"Wi-Fi" ], @"Wi-Fi", NO, @[ @"BLUETOOTH" ]},
         {"off from nothing stores an empty list", nil, @"Wi-Fi", NO, @[]},
         {"off of a wrong-typed value stores a list", @"Wi-Fi", @"Wi-Fi", NO, @[]},
+        {"off keeps what no page understands", @[ @(3), @"Wi-Fi", @{@"x" : @(1)} ], @"Wi-Fi", NO,
+         @[ @(3), @{@"x" : @(1)} ]},
     };
     for (const Case &c : cases) {
         SCOPED_TRACE(c.what);
@@ -48,10 +50,14 @@ TEST_F(ProtectedListStoreTest, EachSwitchStoresAsTheRuleSaysAndPostsOnce) {
         EXPECT_EQ(SimNotifyPostCount(tessarin::kPrefsChangedNotification), posts + 1);
         EXPECT_EQ(contains(c.item, &entry), c.on);
     }
-    // Nothing to switch: nothing stored, nothing posted.
-    set(nil, entry.name());
-    const unsigned posts = SimNotifyPostCount(tessarin::kPrefsChangedNotification);
-    flip(nil, YES, &entry);
-    EXPECT_EQ([StoredPreferences() objectForKey:@(entry.name())], nil);
-    EXPECT_EQ(SimNotifyPostCount(tessarin::kPrefsChangedNotification), posts);
+    // A row with nothing to switch (no identifier, no name): the list is stored as it
+    // was and the change posted, as for an item that is never there.
+    for (id item : {(id)nil, (id)@(5)}) {
+        set(@[ @"Wi-Fi" ], entry.name());
+        const unsigned posts = SimNotifyPostCount(tessarin::kPrefsChangedNotification);
+        flip(item, YES, &entry);
+        EXPECT_NSEQ([StoredPreferences() objectForKey:@(entry.name())], @[ @"Wi-Fi" ]);
+        EXPECT_EQ(SimNotifyPostCount(tessarin::kPrefsChangedNotification), posts + 1);
+        EXPECT_FALSE(contains(item, &entry));
+    }
 }
