@@ -120,6 +120,35 @@ TEST_F(ApplicationPagesTest, SpringBoardsOfferFiltersAndItsAbsenceShowsAll) {
     EXPECT_NSEQ(Names(Open()), (@[ @"Alpha", @"Beta", @"Gamma" ]));
 }
 
+// The list is in the order of the device's language, whatever the locale of the process
+// running the simulation: Swedish puts Å, Ä and Ö after Z.
+TEST_F(ApplicationPagesTest, NamesSortInTheDevicesLanguage) {
+    NSArray *installed = @[
+        app(@"Applications", @"S.app", info(@"com.test.sms", @"MobileSMS")),
+        app(@"Applications", @"A.app", info(@"com.test.arlig", @"\u00C4rlig")),
+        app(@"Applications", @"Z.app", info(@"com.test.zebra", @"Zebra")),
+        app(@"Applications", @"F.app", info(@"com.test.safari", @"MobileSafari")),
+        app(@"Applications", @"B.app", info(@"com.test.apple", @"apple")),
+    ];
+    struct Case {
+        NSArray *languages;
+        NSArray *names;
+    };
+    const Case cases[] = {
+        {@[ @"en" ], @[ @"apple", @"\u00C4rlig", @"MobileSafari", @"MobileSMS", @"Zebra" ]},
+        {@[ @"sv" ], @[ @"apple", @"MobileSafari", @"MobileSMS", @"Zebra", @"\u00C4rlig" ]},
+    };
+    for (const Case &c : cases) {
+        SCOPED_TRACE([[c.languages description] UTF8String]);
+        StartDevice(SIM_DEFAULT_PROFILE, false, ^(NSMutableDictionary *profile) {
+            [profile setObject:installed forKey:@"installedApplications"];
+            [profile setObject:c.languages forKey:@"languages"];
+            [profile removeObjectForKey:@"files"];
+        });
+        EXPECT_NSEQ(Names(Open()), c.names);
+    }
+}
+
 TEST_F(ApplicationPagesTest, TheLegacyContainerRootIsReadWhenTheNewOneIsMissing) {
     NSArray *installed = @[ app(@"Containers", @"A.app", info(@"com.test.a", @"Alpha"), @"A1") ];
     StartDevice(SIM_DEFAULT_PROFILE, false, ^(NSMutableDictionary *profile) {

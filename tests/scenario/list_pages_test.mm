@@ -387,6 +387,80 @@ TEST_F(ListPagesTest, SavingTheAlertTitleStoresItLeavesAndPostsOnce) {
     }
 }
 
+// What a phone's user gets from the title page: the table has made the text row's cell
+// (as it makes the cell of every row on screen), so "Save" reads what the row shows.
+TEST_F(ListPagesTest, TheAlertTitleKeepsWhatTheUserLastSaw) {
+    enum class Action { SaveUntouched, SaveWhileEditing, BackAfterEditing };
+    struct Case {
+        const char *what;
+        id stored;  // before the page opens (nil: no key)
+        Action action;
+        id expected;
+        unsigned posts;
+    };
+    const Case cases[] = {
+        {"save untouched keeps the title", @"Hello", Action::SaveUntouched, @"Hello", 1},
+        {"save untouched on a first run stores the default shown", nil, Action::SaveUntouched, @"Tessarin", 1},
+        {"save while typing: leaving ends the edit, which the row stores", @"Hello", Action::SaveWhileEditing,
+         @"Draft", 1},
+        {"back after editing keeps what the row stored", @"Hello", Action::BackAfterEditing, @"Edited", 0},
+    };
+    for (const Case &c : cases) {
+        SCOPED_TRACE(c.what);
+        Open("iphone-faceid-ios16", false);
+        BundleSymbol<void (*)(id, const char *)>("setPrefsValueForKey")(c.stored, "alertTitle");
+        PSListController *page = Push(@"TessarinAlertTitleController");
+        [page viewDidAppear:NO];
+        SimRunLoopRunFor(0.1);
+        PSSpecifier *row = [page specifierForID:@"ALERTTITLE_KEY"];
+        PSEditableTableCell *cell = [row propertyForKey:@"cellObject"];
+        ASSERT_TRUE([cell isKindOfClass:[PSEditableTableCell class]]) << "the row on screen has its cell";
+        const unsigned posts = Posts();
+        switch (c.action) {
+        case Action::SaveUntouched: break;
+        case Action::SaveWhileEditing: {
+            UITextField *field = [cell textField];
+            [field becomeFirstResponder];
+            [field setText:@"Draft"];
+            [field sendActionsForControlEvents:UIControlEventEditingChanged];
+            break;
+        }
+        case Action::BackAfterEditing: ASSERT_TRUE(SimEditableCellType(cell, @"Edited")); break;
+        }
+        if (c.action == Action::BackAfterEditing) {
+            [SimSettingsRootController() popViewControllerAnimated:YES];
+        } else {
+            ASSERT_TRUE(SimTapBarButtonItem([[page navigationItem] rightBarButtonItem]));
+        }
+        SimRunLoopRunFor(0.8);
+        EXPECT_NSEQ(Stored(@"alertTitle"), c.expected);
+        EXPECT_EQ(Posts(), posts + c.posts);
+        EXPECT_FALSE([[SimSettingsRootController() viewControllers] containsObject:page]);
+    }
+}
+
+// The delay slider is segmented into whole seconds: wherever the finger lets go, a phone
+// stores a whole number, and the row's change is announced.
+TEST_F(ListPagesTest, TheDelaySliderStoresWholeSeconds) {
+    Open("iphone-faceid-ios16", false);
+    PSListController *page = Push(@"TessarinDelayController");
+    SimRunLoopRunFor(0.1);
+    PSTableCell *cell = [[page specifierForID:@"DELAY_TIME"] propertyForKey:@"cellObject"];
+    ASSERT_TRUE([cell respondsToSelector:@selector(control)]);
+    UISlider *slider = (UISlider *)[(PSControlTableCell *)cell control];
+    const struct {
+        float dragged;
+        double stored;
+    } cases[] = {{4.4f, 4}, {4.6f, 5}, {0.2f, 1}, {99, 10}};
+    for (const auto &c : cases) {
+        SCOPED_TRACE(c.dragged);
+        const unsigned posts = Posts();
+        ASSERT_TRUE(SimSliderDrag(slider, c.dragged));
+        EXPECT_NSEQ(Stored(@"delayTime"), @(c.stored));
+        EXPECT_EQ(Posts(), posts + 1);
+    }
+}
+
 // The plist pages show their designed rows.
 TEST_F(ListPagesTest, PlistPagesShowTheirRows) {
     Open("iphone-faceid-ios16", false);

@@ -225,12 +225,35 @@ static NSArray *cellTypeNames(void) {
 }
 @end
 
+@implementation PSSegmentableSlider
+@synthesize segmented = _segmented;
+@synthesize locksToSegment = _locksToSegment;
+@synthesize snapsToSegment = _snapsToSegment;
+@synthesize segmentCount = _segmentCount;
+- (void)setValue:(float)value {
+  float min = self.minimumValue, max = self.maximumValue;
+  if (_segmented && _segmentCount > 0 && max > min) {
+    float step = (max - min) / (float)_segmentCount;
+    value = min + roundf((value - min) / step) * step;
+  }
+  [super setValue:value];
+}
+@end
+
 @implementation PSSliderTableCell
 - (UIControl *)newControl {
-  UISlider *slider = [[UISlider alloc] initWithFrame:CGRectMake(0, 0, 200, 31)];
+  PSSegmentableSlider *slider = [[PSSegmentableSlider alloc] initWithFrame:CGRectMake(0, 0, 200, 31)];
   id min = [_specifier propertyForKey:@"min"], max = [_specifier propertyForKey:@"max"];
   if ([max respondsToSelector:@selector(floatValue)]) slider.maximumValue = [max floatValue];
   if ([min respondsToSelector:@selector(floatValue)]) slider.minimumValue = [min floatValue];
+  id segmented = [_specifier propertyForKey:@"isSegmented"], count = [_specifier propertyForKey:@"segmentCount"];
+  if ([segmented respondsToSelector:@selector(boolValue)] && [segmented boolValue]) {
+    slider.segmented = YES;
+    slider.locksToSegment = YES;
+    slider.snapsToSegment = YES;
+    if ([count respondsToSelector:@selector(longLongValue)] && [count longLongValue] > 0)
+      slider.segmentCount = (unsigned long long)[count longLongValue];
+  }
   return slider;
 }
 - (id)controlValue {

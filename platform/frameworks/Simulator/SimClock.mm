@@ -175,6 +175,7 @@ static double realSeconds(void)
     for (;;) {
         // Work already handed to the run loop (main-queue blocks, performs) goes first.
         for (int turn = 0; turn < 8; turn++) [loop runMode:NSDefaultRunLoopMode beforeDate:[NSDate distantPast]];
+        SimRunLoopDisplayPass();
         SimClockItem *item = [self takeDueBy:target];
         if (item == nil) break;
         if ([item due] > _virtualNow) _virtualNow = [item due];
@@ -182,6 +183,7 @@ static double realSeconds(void)
     }
     _virtualNow = target;
     for (int turn = 0; turn < 8; turn++) [loop runMode:NSDefaultRunLoopMode beforeDate:[NSDate distantPast]];
+    SimRunLoopDisplayPass();
 }
 
 - (void)cancelTarget:(id)target selector:(SEL)selector argument:(id)argument matchAll:(BOOL)all

@@ -6,13 +6,27 @@
 
 #include <unistd.h>
 
-// One bounded turn of the run loop. GNUstep returns at once when the loop has no input
-// source yet; sleep a little then, so callers waiting on other threads do not spin.
+static void (*displayPass)(void);
+
+void SimRunLoopSetDisplayPass(void (*pass)(void))
+{
+    displayPass = pass;
+}
+
+void SimRunLoopDisplayPass(void)
+{
+    if (displayPass != NULL && [NSThread isMainThread]) displayPass();
+}
+
+// One bounded turn of the run loop, then the display pass that ends a turn on iOS. GNUstep
+// returns at once when the loop has no input source yet; sleep a little then, so callers
+// waiting on other threads do not spin.
 static void runOnce(NSRunLoop *loop, NSDate *limit)
 {
     NSDate *slice = [NSDate dateWithTimeIntervalSinceNow:0.01];
     NSDate *until = [slice earlierDate:limit];
     if (![loop runMode:NSDefaultRunLoopMode beforeDate:until]) usleep(1000);
+    SimRunLoopDisplayPass();
 }
 
 void SimRunLoopRunFor(double seconds)

@@ -515,6 +515,15 @@ static NSNumber *stateKey(UIControlState state) { return [NSNumber numberWithUns
 }
 @end
 
+BOOL SimSliderDrag(UISlider *slider, float value) {
+  if (![slider isKindOfClass:[UISlider class]] || !slider.enabled || !slider.userInteractionEnabled ||
+      [[UIApplication sharedApplication] isIgnoringInteractionEvents])
+    return NO;
+  [slider setValue:value animated:NO];
+  [slider sendActionsForControlEvents:UIControlEventValueChanged];
+  return YES;
+}
+
 @implementation UISegmentedControl
 @synthesize momentary = _momentary;
 - (instancetype)initWithItems:(NSArray *)items {
@@ -736,6 +745,7 @@ static NSNumber *stateKey(UIControlState state) { return [NSNumber numberWithUns
   CGRect b = self.bounds;
   b.origin = offset;
   self.bounds = b;
+  [self setNeedsLayout];  // what is on screen changed
   if ([_scrollDelegate respondsToSelector:@selector(scrollViewDidScroll:)]) [_scrollDelegate scrollViewDidScroll:self];
 }
 - (void)setContentOffset:(CGPoint)offset animated:(BOOL)animated {

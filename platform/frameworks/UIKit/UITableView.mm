@@ -461,6 +461,7 @@ const CGFloat UITableViewAutomaticDimension = -1;
   _selectedIndexPath = nil;
   CGRect last = [self rectForSection:self.numberOfSections - 1];
   self.contentSize = CGSizeMake(self.bounds.size.width, CGRectGetMaxY(last) + (_tableFooterView ? _tableFooterView.frame.size.height : 0));
+  [self setNeedsLayout];
 }
 - (void)reloadSections:(NSIndexSet *)sections withRowAnimation:(UITableViewRowAnimation)animation {
   [self reloadData];
@@ -574,6 +575,39 @@ const CGFloat UITableViewAutomaticDimension = -1;
   else
     [_registeredClasses removeObjectForKey:identifier];
 }
+// As UITableView does in its layout: every row on screen has its cell, asked of the data
+// source when it has none yet, and the cells of rows scrolled away go back to the reuse
+// pool. The screen is the table's bounds, whose origin is its content offset.
+- (void)_simLayOutVisibleRows {
+  CGRect visible = self.bounds;
+  if (!_dataSource || visible.size.width <= 0 || visible.size.height <= 0) return;
+  NSMutableSet *onScreen = [NSMutableSet set];
+  const NSInteger sections = self.numberOfSections;
+  for (NSInteger section = 0; section < sections; section++) {
+    if (!CGRectIntersectsRect([self rectForSection:section], visible)) continue;
+    const NSInteger rows = [self numberOfRowsInSection:section];
+    for (NSInteger row = 0; row < rows; row++) {
+      NSIndexPath *path = [NSIndexPath indexPathForRow:row inSection:section];
+      CGRect rect = [self rectForRowAtIndexPath:path];
+      if (rect.size.height <= 0 || !CGRectIntersectsRect(rect, visible)) continue;
+      if ([self cellForRowAtIndexPath:path]) [onScreen addObject:path];
+    }
+  }
+  for (NSIndexPath *path in [_visibleCells allKeys]) {
+    if ([onScreen containsObject:path]) continue;
+    UITableViewCell *cell = [[[_visibleCells objectForKey:path] retain] autorelease];
+    [_visibleCells removeObjectForKey:path];
+    if (cell.superview == self) [cell removeFromSuperview];
+    NSString *rid = cell.reuseIdentifier;
+    if (!rid) continue;
+    NSMutableArray *pool = [_reusableCells objectForKey:rid];
+    if (!pool) {
+      pool = [NSMutableArray array];
+      [_reusableCells setObject:pool forKey:rid];
+    }
+    if ([pool indexOfObjectIdenticalTo:cell] == NSNotFound) [pool addObject:cell];
+  }
+}
 - (void)layoutSubviews {
   [super layoutSubviews];
   CGFloat w = self.bounds.size.width;
@@ -585,6 +619,7 @@ const CGFloat UITableViewAutomaticDimension = -1;
     UITableViewCell *cell = [_visibleCells objectForKey:p];
     cell.frame = [self rectForRowAtIndexPath:p];
   }
+  [self _simLayOutVisibleRows];
 }
 @end
 

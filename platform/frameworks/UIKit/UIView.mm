@@ -427,13 +427,30 @@ void SimUIKitResetResponders(void) {
   for (UIView *v in _subviews) [layers addObject:v.layer];
   _layer.sublayers = layers;
 }
+// Moving a subview within its superview only reorders it: it does not leave its window,
+// and a view already in place is left alone (a cell that keeps its separator in front
+// on every layout must not ask for another layout, or it would be laid out forever).
+- (void)_simMoveSubview:(UIView *)view toIndex:(NSUInteger)index {
+  NSUInteger from = [_subviews indexOfObjectIdenticalTo:view];
+  if (from == NSNotFound || from == index) return;
+  [[view retain] autorelease];
+  [_subviews removeObjectAtIndex:from];
+  [_subviews insertObject:view atIndex:index];
+  NSMutableArray *layers = [NSMutableArray array];
+  for (CALayer *l in _layer.sublayers) {
+    BOOL isView = NO;
+    for (UIView *v in _subviews)
+      if (v.layer == l) isView = YES;
+    if (!isView) [layers addObject:l];
+  }
+  for (UIView *v in _subviews) [layers addObject:v.layer];
+  _layer.sublayers = layers;
+}
 - (void)bringSubviewToFront:(UIView *)view {
-  if ([_subviews indexOfObjectIdenticalTo:view] == NSNotFound) return;
-  [self insertSubview:view atIndex:_subviews.count - 1];
+  if (_subviews.count > 0) [self _simMoveSubview:view toIndex:_subviews.count - 1];
 }
 - (void)sendSubviewToBack:(UIView *)view {
-  if ([_subviews indexOfObjectIdenticalTo:view] == NSNotFound) return;
-  [self insertSubview:view atIndex:0];
+  [self _simMoveSubview:view toIndex:0];
 }
 - (void)removeFromSuperview {
   UIView *parent = _superview;

@@ -2,6 +2,7 @@
 #import <UIKit/UIKitSimulation.h>
 
 #import "UIKitInternal.h"
+#include <Simulator/Simulator.h>
 
 enum { kDisappeared = 0, kAppearing = 1, kAppeared = 2, kDisappearing = 3 };
 
@@ -853,6 +854,18 @@ static BOOL SimOpenURL(UIApplication *app, NSURL *url, NSDictionary *options) {
 
 void SimUIKitRegisterWindow(UIWindow *window) {
 }
+
+// When a run-loop turn ends, iOS commits the turn's changes to the screen and lays out
+// whatever asked for layout in the windows on it: a table then has the cells of the rows
+// it shows.
+static void layOutWindowsOnScreen(void) {
+  if (!gSharedApplication) return;
+  NSAutoreleasePool *pool = [[NSAutoreleasePool alloc] init];
+  UIWindow *window = [gSharedApplication keyWindow];
+  if (window && !window.hidden) [window layoutIfNeeded];
+  [pool release];
+}
+__attribute__((constructor)) static void registerDisplayPass(void) { SimRunLoopSetDisplayPass(layOutWindowsOnScreen); }
 void SimUIKitSetKeyWindow(UIWindow *window) { [[UIApplication sharedApplication] _simSetKeyWindow:window]; }
 void SimUIKitResetApplication(void) {
   if (gSharedApplication) [gSharedApplication _simReset];

@@ -59,6 +59,7 @@ static void performOn(id target, SEL action, id argument) {
           "  tap N left|middle|right  tap one third of a row of three choices (unlock buttons, glyphs)\n"
           "  flip N             turn a switch row over\n"
           "  switch N on|off    set a switch row\n"
+          "  slide N VALUE      drag a slider row's thumb to VALUE and let go\n"
           "  alert N            trigger the alert's action N (or: alert \"Title\")\n"
           "  type TEXT          enter a passcode, or text into the focused field (ends with Return)\n"
           "  back               go back one page\n"
@@ -328,6 +329,21 @@ static UITextField *focusedTextField(UIView *view) {
   return SimTapBarButtonItem(button) ? nil : @"The bar button did not respond.";
 }
 
+// A slider row's thumb dragged to `where` and let go, through the row's own slider on screen.
+- (NSString *)slide:(SettingsScreenItem *)item to:(NSString *)where {
+  UIViewController *page = [item controller];
+  if ([item footerLink] || ![page isKindOfClass:[PSListController class]]) return @"That is not a row.";
+  NSScanner *scanner = [NSScanner scannerWithString:where];
+  double value = 0;
+  if (![scanner scanDouble:&value] || ![scanner isAtEnd]) return @"Say where to: slide N VALUE.";
+  PSListController *list = (PSListController *)page;
+  id cell = [list cachedCellForSpecifier:[item specifier]];
+  id control = [cell respondsToSelector:@selector(control)] ? [cell control] : nil;
+  if (![control isKindOfClass:[UISlider class]]) return @"That row is not a slider.";
+  if (!SettingsScreenRowEnabled([item specifier])) return @"That row is disabled.";
+  return SimSliderDrag(control, (float)value) ? nil : @"The slider did not move.";
+}
+
 - (NSString *)deleteRow:(SettingsScreenItem *)item {
   UIViewController *page = [item controller];
   if (![page isKindOfClass:[PSEditableListController class]]) return @"Rows of this page cannot be deleted.";
@@ -484,6 +500,12 @@ static UITextField *focusedTextField(UIView *view) {
       if (item != nil) {
         problem = [[self screen] alert] != nil ? @"Answer the alert first (alert N)." : [self setSwitch:item to:@(on)];
       }
+    }
+  } else if ([verb isEqualToString:@"slide"] && count == 3) {
+    SettingsScreenItem *item = [self itemNumbered:[words objectAtIndex:1] error:&problem];
+    if (item != nil) {
+      problem = [[self screen] alert] != nil ? @"Answer the alert first (alert N)."
+                                             : [self slide:item to:[words objectAtIndex:2]];
     }
   } else if ([verb isEqualToString:@"alert"]) {
     problem = [self triggerAlert:words];

@@ -66,6 +66,12 @@ void SimEventLogAppend(const char *event);
 /* Runs the calling thread's run loop (the main one, in practice) for `seconds`. */
 void SimRunLoopRunFor(double seconds);
 
+/* The display pass: what iOS does when a run-loop turn ends (Core Animation's commit): the
+   UIKit stand-in lays out its windows there, so tables make the cells of the rows on screen.
+   SimRunLoopRunFor, SimRunLoopRunUntil and SimClockAdvance run it after every turn. */
+void SimRunLoopSetDisplayPass(void (*pass)(void));
+void SimRunLoopDisplayPass(void);
+
 /* Starts the simulated SpringBoard executable at `path` on the current device and waits
    until it is ready to answer. Returns its pid, or -1. */
 pid_t SimSpringBoardStart(const char *path);

@@ -31,6 +31,10 @@ UIKIT_EXTERN const NSTimeInterval SimTransitionDuration;
    touchesBegan/touchesEnded to the hit view (controls then send their actions). Returns NO
    when the application ignores interaction events or nothing was hit. */
 UIKIT_EXTERN BOOL SimTapView(UIView *view, CGPoint point);
+/* The user drags a slider's thumb to `value` and lifts the finger: the slider takes the value
+   as its own setter does (clamped; a slider that locks to segments snaps), then sends
+   UIControlEventValueChanged. NO when the slider is disabled or interaction is ignored. */
+UIKIT_EXTERN BOOL SimSliderDrag(UISlider *slider, float value);
 /* Sends a bar button item's action to its target (with the item as sender). */
 UIKIT_EXTERN BOOL SimTapBarButtonItem(UIBarButtonItem *item);
 /* Selects a row as a tap would: willSelect, then didSelect of the table's delegate. */
