@@ -160,11 +160,22 @@ std::optional<std::string> logSubtitle(std::string_view head) {
   return std::string(after.substr(0, end));
 }
 
-std::string latestLinkFile(std::string_view linkTarget) {
-  const std::string directory = std::string(kLogDirectory) + "/";
-  std::string_view file = linkTarget;
-  if (beginsWith(file, directory)) file.remove_prefix(directory.size());
-  return std::string(file);
+bool isListedLog(std::string_view fileName, EntryKind kind) {
+  return kind == EntryKind::RegularFile && isPlainFileName(fileName) && !isLatestName(fileName);
+}
+
+std::optional<std::string> fileInDirectory(std::string_view resolvedPath, std::string_view realDirectory) {
+  if (realDirectory.empty() || realDirectory.front() != '/') return std::nullopt;
+  std::string prefix(realDirectory);
+  if (prefix.back() != '/') prefix += '/';
+  if (!beginsWith(resolvedPath, prefix)) return std::nullopt;
+  const std::string_view name = resolvedPath.substr(prefix.size());
+  if (!isPlainFileName(name)) return std::nullopt;
+  return std::string(name);
+}
+
+bool mayDelete(std::string_view fileName, EntryKind kind) {
+  return kind == EntryKind::RegularFile || (kind == EntryKind::SymbolicLink && fileName == kLatestLinkName);
 }
 
 bool isPlainFileName(std::string_view name) {
@@ -187,6 +198,61 @@ std::vector<std::string> filesToDelete(std::string_view rowFile, const std::opti
   if (linkFile && *linkFile == rowFile) files.emplace_back(kLatestLinkName);
   files.emplace_back(rowFile);
   return files;
+}
+
+std::optional<std::string> fileToView(std::string_view rowFile, const std::optional<std::string> &linkFile) {
+  if (rowFile == kLatestLinkName) return linkFile;
+  if (!isPlainFileName(rowFile)) return std::nullopt;
+  return std::string(rowFile);
+}
+
+std::size_t shownLength(std::string_view head, uint64_t fileSize) {
+  if (fileSize <= head.size()) return head.size();
+  // Step back over the continuation bytes at the end to the byte that starts the last
+  // character; drop that character when the cut left it short.
+  std::size_t start = head.size();
+  std::size_t continuations = 0;
+  while (start > 0 && continuations < 3 && (static_cast<unsigned char>(head[start - 1]) & 0xC0) == 0x80) {
+    --start;
+    ++continuations;
+  }
+  if (start == 0) return head.size();
+  const unsigned char lead = static_cast<unsigned char>(head[start - 1]);
+  const std::size_t length = lead < 0x80 ? 1 : (lead & 0xE0) == 0xC0 ? 2 : (lead & 0xF0) == 0xE0 ? 3
+                             : (lead & 0xF8) == 0xF0 ? 4 : 0;
+  if (length == 0) return head.size();  // not a character's start: bad bytes, left as they are
+  return continuations + 1 < length ? start - 1 : head.size();
+}
+
+std::string sizeText(uint64_t bytes) {
+  static const char *const kUnits[] = {"KB", "MB", "GB", "TB"};
+  if (bytes < 1000) return std::to_string(bytes) + " bytes";
+  uint64_t unit = 1000;
+  std::size_t index = 0;
+  while (index + 1 < sizeof kUnits / sizeof *kUnits && bytes >= unit * 1000 - unit / 20) {
+    unit *= 1000;
+    ++index;
+  }
+  // Tenths of the unit, rounded: whole numbers only, so no locale decides the decimal mark.
+  const uint64_t tenths = bytes / (unit / 10) + (bytes % (unit / 10) >= unit / 20 ? 1 : 0);
+  std::string text = std::to_string(tenths / 10);
+  if (tenths % 10 != 0) text += "." + std::to_string(tenths % 10);
+  return text + " " + kUnits[index];
+}
+
+std::string fillIn(std::string_view format, const std::vector<std::string> &values) {
+  static constexpr std::string_view kPlaceholder = "%@";
+  std::string text;
+  std::size_t next = 0;
+  while (!format.empty()) {
+    const std::size_t at = format.find(kPlaceholder);
+    if (at == std::string_view::npos || next == values.size()) break;
+    text.append(format.substr(0, at));
+    text += values[next++];
+    format.remove_prefix(at + kPlaceholder.size());
+  }
+  text.append(format);
+  return text;
 }
 
 }  // namespace tessarin::logs

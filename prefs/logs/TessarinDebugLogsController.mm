@@ -4,12 +4,7 @@
 #import "core/BundleLookup.h"
 #import "core/Endpoints.h"
 #import "core/Paths.h"
-#include "logs/CrashLogs.hpp"
-
-#include <dirent.h>
-#include <fcntl.h>
-#include <string.h>
-#include <unistd.h>
+#include "logs/LogDirectory.hpp"
 
 #include <optional>
 #include <string>
@@ -22,49 +17,32 @@ namespace logs = tessarin::logs;
 // The rows are rebuilt this long after a deletion, once the row's removal has played.
 const double kReloadDelay = 0.4;
 
-// A file name or path in the file system's own encoding (what the directory listing gives).
+// A file name in the file system's own encoding (what the directory listing gives).
 std::string pathString(id text) {
   const char *bytes = [text isKindOfClass:[NSString class]] ? [(NSString *)text fileSystemRepresentation] : NULL;
   return bytes != NULL ? std::string(bytes) : std::string();
-}
-
-NSString *logDirectory(void) { return nsString(logs::kLogDirectory); }
-
-// The file-system path of a file of the log directory.
-NSString *logPath(NSString *file) { return devicePath([logDirectory() stringByAppendingPathComponent:file]); }
-
-// The names in the log directory (none when it is missing). Read straight from the
-// directory: a list of thousands of logs should not cost a look at each file.
-std::vector<std::string> directoryEntries(void) {
-  std::vector<std::string> names;
-  DIR *directory = opendir([devicePath(logDirectory()) fileSystemRepresentation]);
-  if (directory == NULL) return names;
-  while (struct dirent *entry = readdir(directory)) {
-    if (strcmp(entry->d_name, ".") == 0 || strcmp(entry->d_name, "..") == 0) continue;
-    names.emplace_back(entry->d_name);
-  }
-  closedir(directory);
-  return names;
 }
 
 NSString *fileName(const std::string &file) {
   return [[NSFileManager defaultManager] stringWithFileSystemRepresentation:file.c_str() length:file.size()];
 }
 
-// The process named in the head of a log (`path`: its file-system path), when it names one.
-NSString *subtitleOfLog(const std::string &path) {
-  const int log = open(path.c_str(), O_RDONLY);
-  if (log < 0) return nil;
-  char head[logs::kHeadBytes];
-  size_t length = 0;
-  while (length < sizeof head) {
-    const ssize_t got = read(log, head + length, sizeof head - length);
-    if (got <= 0) break;
-    length += (size_t)got;
-  }
-  close(log);
-  std::optional<std::string> subtitle = logs::logSubtitle(std::string_view(head, length));
-  return subtitle ? nsString(*subtitle) : nil;
+std::string fileSystemPath(const char *path) { return devicePath(path); }
+
+logs::LogDirectory logDirectory() {
+  return logs::LogDirectory(fileSystemPath(std::string(logs::kLogDirectory).c_str()), fileSystemPath);
+}
+
+// The viewer's text for a row's file: nil when the row names no log of the directory
+// or the log is not UTF-8. A log longer than the viewer reads begins with a line that says so.
+NSString *viewerText(NSString *rowFile) {
+  const std::optional<logs::ViewedLog> log = logs::viewedLog(logDirectory(), pathString(rowFile));
+  NSString *text = log ? nsString(log->text) : nil;
+  if (text == nil || !log->cut) return text;
+  NSString *format = localizedString(@"LOG_CUT_NOTICE", @"This log is %@: only its first %@ is shown.");
+  const std::string notice =
+      logs::fillIn(stdString(format), {logs::sizeText(log->fileSize), logs::sizeText(log->text.size())});
+  return [NSString stringWithFormat:@"%@\n\n%@", nsStringOrEmpty(notice), text];
 }
 
 }  // namespace
@@ -74,28 +52,11 @@ NSString *subtitleOfLog(const std::string &path) {
 - (NSArray *)specifiers {
   if (_specifiers != nil) return _specifiers;
 
-  std::vector<logs::LogEntry> entries;
-  for (std::string &file : directoryEntries()) {
-    const uint64_t timestamp = logs::logTimestamp(file);
-    entries.push_back({std::move(file), timestamp});
-  }
-  const std::vector<std::string> files = logs::newestFirst(std::move(entries));
-
-  NSMutableArray *rows = [NSMutableArray array];
-  if (files.empty()) {
-    PSSpecifier *nothing = [PSSpecifier groupSpecifierWithName:nil];
-    [nothing setProperty:localizedString(@"NO_CRASHES_RECORDED", @"No crashes recorded :)") forKey:@"footerText"];
-    [nothing setProperty:@(1) forKey:@"footerAlignment"];
-    [rows addObject:nothing];
-  }
-  [rows addObject:[PSSpecifier groupSpecifierWithName:localizedString(@"CRASH_LOGS_GROUP", @"Crash Logs")]];
-
-  const std::string directory = devicePath(std::string(logs::kLogDirectory).c_str()) + "/";
   Class viewer = [TessarinCrashLogViewer class];
   Class cellClass = NSClassFromString(@"PSUIAppleIDAccountDetailsLinkCell");
-  for (const std::string &file : files) {
-    if (logs::isLatestName(file)) continue;
-    NSString *name = fileName(file);
+  NSMutableArray *logRows = [NSMutableArray array];
+  for (const logs::ListedLog &log : logs::listedLogs(logDirectory())) {
+    NSString *name = fileName(log.file);
     if (name == nil) continue;  // a name the system cannot show
     PSSpecifier *row = [PSSpecifier preferenceSpecifierNamed:name
                                                       target:nil
@@ -106,10 +67,22 @@ NSString *subtitleOfLog(const std::string &path) {
                                                         edit:Nil];
     if (cellClass != Nil) [row setProperty:cellClass forKey:@"cellClass"];
     [row setProperty:name forKey:@"logFile"];
-    NSString *subtitle = subtitleOfLog(directory + file);
+    NSString *subtitle = log.subtitle ? nsString(*log.subtitle) : nil;
     if (subtitle != nil) [row setProperty:subtitle forKey:@"cellSubtitleText"];
-    [rows addObject:row];
+    [logRows addObject:row];
   }
+
+  NSMutableArray *rows = [NSMutableArray array];
+  // Counted in logs listed, not in directory entries: a latest link whose log is gone
+  // or anything else that is no log must not hide that there is nothing to read.
+  if ([logRows count] == 0) {
+    PSSpecifier *nothing = [PSSpecifier groupSpecifierWithName:nil];
+    [nothing setProperty:localizedString(@"NO_CRASHES_RECORDED", @"No crashes recorded :)") forKey:@"footerText"];
+    [nothing setProperty:@(1) forKey:@"footerAlignment"];
+    [rows addObject:nothing];
+  }
+  [rows addObject:[PSSpecifier groupSpecifierWithName:localizedString(@"CRASH_LOGS_GROUP", @"Crash Logs")]];
+  [rows addObjectsFromArray:logRows];
 
   _specifiers = [rows copy];
   return _specifiers;
@@ -124,16 +97,7 @@ NSString *subtitleOfLog(const std::string &path) {
 }
 
 - (BOOL)performDeletionActionForSpecifier:(PSSpecifier *)specifier {
-  NSFileManager *files = [NSFileManager defaultManager];
-  NSString *link = [files destinationOfSymbolicLinkAtPath:logPath(nsString(logs::kLatestLinkName)) error:NULL];
-  std::optional<std::string> linkFile;
-  if ([link isKindOfClass:[NSString class]]) linkFile = logs::latestLinkFile(pathString(link));
-
-  const std::string rowFile = pathString([specifier propertyForKey:@"logFile"]);
-  for (const std::string &file : logs::filesToDelete(rowFile, linkFile, directoryEntries())) {
-    NSString *name = fileName(file);
-    if (name != nil) [files removeItemAtPath:logPath(name) error:NULL];
-  }
+  logs::deleteForRow(logDirectory(), pathString([specifier propertyForKey:@"logFile"]));
 
   BOOL removed = [super performDeletionActionForSpecifier:specifier];
   // Rebuilt a moment later, so the last deletion shows that nothing is left.
@@ -174,10 +138,8 @@ NSString *subtitleOfLog(const std::string &path) {
   UITextView *text = [[UITextView alloc] initWithFrame:self.view.bounds];
   text.autoresizingMask = UIViewAutoresizingFlexibleWidth | UIViewAutoresizingFlexibleHeight;
   text.editable = NO;
-  // A log that is not UTF-8 reads as nothing: the viewer stays empty.
-  NSString *file = [self logFile];
-  text.text = file != nil ? [NSString stringWithContentsOfFile:logPath(file) encoding:NSUTF8StringEncoding error:NULL]
-                          : nil;
+  // A log that is not UTF-8, or a row that names no log, reads as nothing: the viewer stays empty.
+  text.text = viewerText([self logFile]);
   [self.view addSubview:text];
   self.textView = text;
   [text release];
