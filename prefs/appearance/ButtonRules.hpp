@@ -9,13 +9,12 @@
 #include <string_view>
 #include <vector>
 
+#include "core/Geometry.hpp"
 #include "core/SystemVersion.hpp"
 
 namespace tessarin::appearance {
 
-struct Frame {
-  double x, y, width, height;
-};
+using Frame = tessarin::Rect;
 
 struct Rgb {
   double red, green, blue;

@@ -7,6 +7,7 @@
 #include <string>
 #include <string_view>
 
+#include "core/Geometry.hpp"
 #include "lists/InfoValue.hpp"
 
 namespace tessarin::lists {
@@ -25,9 +26,7 @@ inline constexpr const char *kSpringBoardBundle = "/System/Library/CoreServices/
 std::optional<std::string> folderRowName(const std::optional<std::string> &folderType,
                                          const InfoValue &defaultDisplayName, const InfoValue &displayName);
 
-struct PictureRect {
-    double x, y, width, height;
-};
+using PictureRect = tessarin::Rect;
 
 // The picture: a translucent grey-blue rounded view drawn into a square canvas.
 inline constexpr PictureRect kFolderPictureView{0, 2, 58, 58};

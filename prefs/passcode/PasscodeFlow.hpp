@@ -7,6 +7,8 @@
 #include <string>
 #include <string_view>
 
+#include "core/Geometry.hpp"
+
 namespace tessarin::passcode {
 
 // ---------------------------------------------------------------------------
@@ -148,16 +150,7 @@ inline constexpr const char *kRootListClassName = "PrefsListController";
 // ---------------------------------------------------------------------------
 // Geometry (W is the main screen's width)
 
-struct Rect {
-  double x;
-  double y;
-  double width;
-  double height;
-};
-
-constexpr bool operator==(const Rect &a, const Rect &b) {
-  return a.x == b.x && a.y == b.y && a.width == b.width && a.height == b.height;
-}
+using tessarin::Rect;
 
 struct Rgb {
   int red;  // 0..255 each; the views use component / 255, alpha 1

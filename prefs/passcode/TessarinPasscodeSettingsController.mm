@@ -3,6 +3,7 @@
 #import "core/Specifiers.h"
 #import "passcode/PasscodePages.h"
 #import "passcode/TessarinPasscodeController.h"
+#import "passcode/TessarinChangePasscodeController.h"
 #import "passcode/TessarinRemovePasscodeController.h"
 #import "core/BundleLookup.h"
 #import "core/Hardware.h"

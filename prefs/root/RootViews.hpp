@@ -5,15 +5,12 @@
 #include <array>
 #include <string_view>
 
+#include "core/Geometry.hpp"
+
 namespace tessarin::root {
 
-struct Rgba {
-  double red, green, blue, alpha;
-};
-
-struct Rect {
-  double x, y, width, height;
-};
+using tessarin::Rect;
+using tessarin::Rgba;
 
 // Text alignment values of the platform's label (NSTextAlignment on iOS).
 inline constexpr int kTextAlignmentCenter = 1;

@@ -1,4 +1,5 @@
 #import "root/TessarinPrefsListController.h"
+#import "core/Geometry.h"
 #import "core/Strings.h"
 #import "core/Specifiers.h"
 #import "core/SpringBoardRequests.h"
@@ -9,7 +10,8 @@
 #import "core/Paths.h"
 #import "core/PreferenceStore.h"
 #import "core/VersionFlags.h"
-#import "root/TessarinRootViews.h"
+#import "root/TessarinCreditsCell.h"
+#import "root/TessarinTrustedWiFiWarningCell.h"
 #import "wifi/TessarinWiFiManager.h"
 #include "core/Names.hpp"
 #include "root/RootBehaviour.hpp"
@@ -303,10 +305,10 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
   const root::Rect headerFrame = root::header::headerFrame(width);
   const root::Rect labelFrame = root::header::versionLabelFrame(width);
   UIView *headerView =
-      [[UIView alloc] initWithFrame:CGRectMake(headerFrame.x, headerFrame.y, headerFrame.width, headerFrame.height)];
+      [[UIView alloc] initWithFrame:cgRect(headerFrame)];
   [headerView setClipsToBounds:root::header::kClipsToBounds];
   UILabel *label =
-      [[UILabel alloc] initWithFrame:CGRectMake(labelFrame.x, labelFrame.y, labelFrame.width, labelFrame.height)];
+      [[UILabel alloc] initWithFrame:cgRect(labelFrame)];
   [label setFont:[UIFont systemFontOfSize:root::header::kFontSize]];
   [label setTextAlignment:(NSTextAlignment)root::header::kAlignment];
   [label setTextColor:[UIColor lightGrayColor]];
@@ -323,7 +325,7 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
 - (void)viewDidLayoutSubviews {
   [super viewDidLayoutSubviews];
   const root::Rect frame = root::header::versionLabelFrame([[self view] frame].size.width);
-  [_versionLabel setFrame:CGRectMake(frame.x, frame.y, frame.width, frame.height)];
+  [_versionLabel setFrame:cgRect(frame)];
 }
 
 - (void)viewDidAppear:(BOOL)animated {
