@@ -43,9 +43,10 @@ inline constexpr size_t kMaxDepth = 64;
 inline constexpr size_t kMaxNodes = size_t{1} << 18;
 inline constexpr size_t kMaxPayloadBytes = size_t{16} << 20;
 
-// Converts a tree to a Value; nullopt when it holds a UID anywhere.
-// Duplicate dictionary keys: the last one wins.
-std::optional<Value> toValue(const RawNode &node);
+/// Converts a tree to a Value, taking its strings and data rather than copying
+/// them; nullopt when it holds a UID anywhere. A key repeated in a dictionary keeps
+/// its first place and its last value (Value::dictionary), in O(n log n) for n keys.
+std::optional<Value> toValue(RawNode &&node);
 // The inverse; never fails.
 RawNode toRaw(const Value &value);
 

@@ -529,7 +529,7 @@ std::string writeXmlPlistRaw(const RawNode &root) {
 std::optional<Value> readXmlPlist(const uint8_t *bytes, size_t size) {
     std::optional<RawNode> raw = readXmlPlistRaw(bytes, size, false);
     if (!raw) return std::nullopt;
-    return toValue(*raw);
+    return toValue(std::move(*raw));
 }
 
 std::string writeXmlPlist(const Value &value) { return writeXmlPlistRaw(toRaw(value)); }
