@@ -38,7 +38,10 @@ public:
     // Seconds since 2001-01-01 00:00:00 UTC.
     static Value date(double secondsSinceReferenceDate);
     static Value array(Array items = {});
-    // Later duplicates of a key replace earlier ones.
+    /// A dictionary of the entries in their order, where a repeated key keeps the place
+    /// of its first entry and the value of its last (as set() would leave them one by
+    /// one). O(n log n) in the number of entries: the readers build every dictionary
+    /// through here, so a file of many keys costs no more than sorting them.
     static Value dictionary(Dictionary entries = {});
 
     Kind kind() const noexcept;
@@ -82,6 +85,7 @@ public:
     size_t size() const noexcept;
 
     // Dictionary: sets (or replaces) a key. Returns false when not a dictionary.
+    // Linear in the size of the dictionary: build large ones with dictionary(entries).
     bool set(std::string key, Value value);
     // Dictionary: removes a key. Returns false when absent or not a dictionary.
     bool erase(std::string_view key);
