@@ -109,6 +109,12 @@ BOOL appsContain(id apps, NSString *bundleIdentifier) {
   return NO;
 }
 
+std::vector<std::string> identifiersOf(NSArray *rows) {
+  std::vector<std::string> identifiers;
+  for (PSSpecifier *row in rows) identifiers.push_back(stdString([row identifier]));
+  return identifiers;
+}
+
 void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
   NSString *text = nsString(identifier);
   [specifier setIdentifier:text];
@@ -148,118 +154,20 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
 - (NSArray *)specifiers {
   sharedRootPage = self;
   if (_specifiers != nil) return _specifiers;
-
-  // SpringBoard's half must answer, on a supported system, before anything else shows.
-  if (cachedLibraryVersion == 0) {
-    std::optional<long long> version = integerEntry(askSpringBoard(tessarin::message::kLibraryVersion), @"dlbv");
-    cachedLibraryVersion = (uint32_t)version.value_or(0);
-  }
-  const bool supported = tessarin::isSupportedSystem(stdString(systemVersionString()));
-  if (std::optional<std::string_view> footer = root::singleGroupFooter(cachedLibraryVersion, supported)) {
-    PSSpecifier *group = [PSSpecifier groupSpecifierWithName:nil];
-    [group setProperty:nsString(*footer) forKey:@"footerText"];
-    _specifiers = [[NSArray alloc] initWithObjects:group, nil];
+  if (PSSpecifier *notice = [self noticeGroup]) {
+    _specifiers = [[NSArray alloc] initWithObjects:notice, nil];
     return _specifiers;
   }
 
-  root::RootPageFacts facts;
-  facts.biometricsSet = root::biometricsSet(integerEntry(askSpringBoard(tessarin::message::kBiometricsEnrolled), @"idsn"));
-  facts.productPasscodeSet = productPasscodeStored();
-
-  NSArray *loaded = [self loadSpecifiersFromPlistName:nsString(root::kRowsPlistName) target:self];
-  if (![loaded isKindOfClass:[NSArray class]]) loaded = [NSArray array];
-  NSBundle *bundle = tessarinBundle();
-  std::vector<std::string> loadedIds;
-  for (PSSpecifier *specifier in loaded) {
-    NSString *identifier = [specifier identifier];
-    if (identifier != nil && bundle != nil)
-      [specifier setName:[bundle localizedStringForKey:identifier value:[specifier name] table:nil]];
-    loadedIds.push_back(stdString(identifier));
-  }
-
-  // Asked again on every build: a SpringBoard that went away since the first answer is told.
-  NSDictionary *again = askSpringBoard(tessarin::message::kLibraryVersion);
-  if ([again objectForKey:@"dlbv"] == nil) {
-    springBoardEmergency = YES;
-    [self showAlert:root::noSpringBoardAlert() from:self];
-  }
-
-  facts.gracePeriod = gracePeriodIsActive();
-  facts.trustedNetwork = [[TessarinWiFiManager sharedInstance] isOnTrustedNetwork];
-  const BOOL sensor = iPhone64Bit();
-  facts.device = root::deviceFacts(sensor, hasPearl(), isPad(), systemVersion);
-  if (sensor) facts.devicePasscode = devicePasscodeCharacteristics();
-
-  const root::RootRowsPlan plan = planRootRows(loadedIds, facts, DeviceFileProbe(), classExists);
+  root::RootPageFacts facts = [self settingsFacts];
+  NSArray *loaded = [self loadedRows];
+  [self warnWhenSpringBoardHasGone];
+  [self addDeviceFacts:&facts];
+  const root::RootRowsPlan plan = planRootRows(identifiersOf(loaded), facts, DeviceFileProbe(), classExists);
 
   NSMutableArray *rows = [NSMutableArray array];
   for (const root::PlannedRow &planned : plan.rows) {
-    PSSpecifier *row = nil;
-    switch (planned.kind) {
-      case root::PlannedRowKind::Loaded:
-        row = [loaded objectAtIndex:planned.loadedIndex];
-        if (planned.action == root::RowAction::KeepWithoutFooter) [row removePropertyForKey:@"footerText"];
-        if (planned.action == root::RowAction::KeepAsResetTarget) {
-          TessarinPrefsListController *page = self;
-          [row setProperty:[NSValue value:&page withObjCType:@encode(id)] forKey:@"target"];
-          [row setTarget:self];
-          if ([row buttonAction] == NULL) [row setButtonAction:@selector(resetAllTessarinSettings:)];
-        }
-        break;
-      case root::PlannedRowKind::WarningGroup:
-        row = [PSSpecifier emptyGroupSpecifier];
-        setIdentifier(row, root::kTrustedWarningGroupId);
-        break;
-      case root::PlannedRowKind::Warning:
-        row = [PSSpecifier preferenceSpecifierNamed:nsString(plan.warning->title)
-                                             target:self
-                                                set:NULL
-                                                get:NULL
-                                             detail:Nil
-                                               cell:(PSCellType)root::kStaticTextCellType
-                                               edit:Nil];
-        [row setProperty:[TessarinTrustedWiFiWarningCell class] forKey:@"cellClass"];
-        [row setProperty:@(plan.warning->height) forKey:@"height"];
-        setIdentifier(row, root::kTrustedWarningId);
-        break;
-      case root::PlannedRowKind::DeviceAuthGroup:
-      case root::PlannedRowKind::CreditsGroup:
-        row = [PSSpecifier emptyGroupSpecifier];
-        break;
-      case root::PlannedRowKind::DeviceAuth: {
-        const root::DeviceAuthRow &auth = *plan.deviceAuth;
-        Class detail = auth.detailClass.empty() ? Nil : NSClassFromString(nsString(auth.detailClass));
-        row = [PSSpecifier preferenceSpecifierNamed:nsString(auth.name)
-                                             target:self
-                                                set:NULL
-                                                get:NULL
-                                             detail:detail
-                                               cell:(PSCellType)root::kDeviceAuthCellType
-                                               edit:Nil];
-        if (!auth.loadAction.empty()) [row setControllerLoadAction:NSSelectorFromString(nsString(auth.loadAction))];
-        break;
-      }
-      case root::PlannedRowKind::Credits:
-        row = [PSSpecifier preferenceSpecifierNamed:nsString(root::kCreditsText)
-                                             target:self
-                                                set:NULL
-                                                get:NULL
-                                             detail:Nil
-                                               cell:(PSCellType)root::kCreditsCellType
-                                               edit:Nil];
-        [row setProperty:[TessarinCreditsCell class] forKey:@"cellClass"];
-        [row setProperty:@(root::kCreditsAlignment) forKey:@"alignment"];
-        break;
-      case root::PlannedRowKind::MoreAppsGroup:
-        row = footerGroup(nsString(root::kMoreAppsFooter));
-        [row setTarget:self];
-        [row setButtonAction:NSSelectorFromString(nsString(root::kMoreAppsAction))];
-        [row setProperty:nsString(root::kMoreAppsFooterCellClass) forKey:@"footerCellClass"];
-        [row setProperty:@(root::kMoreAppsHeight) forKey:@"height"];
-        // The footer view shows this text.
-        [row setProperty:nsString(root::kMoreAppsFooter) forKey:nsString(tessarin::root::label_view::kTextProperty)];
-        break;
-    }
+    PSSpecifier *row = [self rowFor:planned of:plan loaded:loaded];
     if (row == nil) continue;
     if (planned.disabled) [row setProperty:@(NO) forKey:@"enabled"];
     [rows addObject:row];
@@ -270,6 +178,150 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
 
   _specifiers = [rows copy];
   return _specifiers;
+}
+
+// SpringBoard's half must answer, on a supported system, before anything else shows: the
+// one group that says why not, or nil.
+- (PSSpecifier *)noticeGroup {
+  if (cachedLibraryVersion == 0) {
+    std::optional<long long> version = integerEntry(askSpringBoard(tessarin::message::kLibraryVersion), @"dlbv");
+    cachedLibraryVersion = (uint32_t)version.value_or(0);
+  }
+  const bool supported = tessarin::isSupportedSystem(stdString(systemVersionString()));
+  std::optional<std::string_view> footer = root::singleGroupFooter(cachedLibraryVersion, supported);
+  if (!footer) return nil;
+  PSSpecifier *group = [PSSpecifier groupSpecifierWithName:nil];
+  [group setProperty:nsString(*footer) forKey:@"footerText"];
+  return group;
+}
+
+// What the product's settings say: biometrics set up (SpringBoard's answer) and a passcode stored.
+- (root::RootPageFacts)settingsFacts {
+  root::RootPageFacts facts;
+  facts.biometricsSet = root::biometricsSet(integerEntry(askSpringBoard(tessarin::message::kBiometricsEnrolled), @"idsn"));
+  facts.productPasscodeSet = productPasscodeStored();
+  return facts;
+}
+
+// The rows of the page's plist, each named from the bundle's table by its identifier.
+- (NSArray *)loadedRows {
+  NSArray *loaded = [self loadSpecifiersFromPlistName:nsString(root::kRowsPlistName) target:self];
+  if (![loaded isKindOfClass:[NSArray class]]) return [NSArray array];
+  NSBundle *bundle = tessarinBundle();
+  for (PSSpecifier *specifier in loaded) {
+    NSString *identifier = [specifier identifier];
+    if (identifier != nil && bundle != nil)
+      [specifier setName:[bundle localizedStringForKey:identifier value:[specifier name] table:nil]];
+  }
+  return loaded;
+}
+
+// Asked again on every build: a SpringBoard that went away since the first answer is told.
+- (void)warnWhenSpringBoardHasGone {
+  NSDictionary *again = askSpringBoard(tessarin::message::kLibraryVersion);
+  if ([again objectForKey:@"dlbv"] != nil) return;
+  springBoardEmergency = YES;
+  [self showAlert:root::noSpringBoardAlert() from:self];
+}
+
+// What the device is and where it is: the status rows and the device-authentication row
+// follow these.
+- (void)addDeviceFacts:(root::RootPageFacts *)facts {
+  facts->gracePeriod = gracePeriodIsActive();
+  facts->trustedNetwork = [[TessarinWiFiManager sharedInstance] isOnTrustedNetwork];
+  const BOOL sensor = iPhone64Bit();
+  facts->device = root::deviceFacts(sensor, hasPearl(), isPad(), systemVersion);
+  if (sensor) facts->devicePasscode = devicePasscodeCharacteristics();
+}
+
+// The one mapping from the plan's kinds of row to rows.
+- (PSSpecifier *)rowFor:(const root::PlannedRow &)planned of:(const root::RootRowsPlan &)plan loaded:(NSArray *)loaded {
+  switch (planned.kind) {
+    case root::PlannedRowKind::Loaded:
+      return [self loadedRow:[loaded objectAtIndex:planned.loadedIndex] as:planned.action];
+    case root::PlannedRowKind::WarningGroup: {
+      PSSpecifier *group = [PSSpecifier emptyGroupSpecifier];
+      setIdentifier(group, root::kTrustedWarningGroupId);
+      return group;
+    }
+    case root::PlannedRowKind::Warning:
+      return [self warningRow:*plan.warning];
+    case root::PlannedRowKind::DeviceAuthGroup:
+    case root::PlannedRowKind::CreditsGroup:
+      return [PSSpecifier emptyGroupSpecifier];
+    case root::PlannedRowKind::DeviceAuth:
+      return [self deviceAuthenticationRow:*plan.deviceAuth];
+    case root::PlannedRowKind::Credits:
+      return [self creditsRow];
+    case root::PlannedRowKind::MoreAppsGroup:
+      return [self moreAppsGroup];
+  }
+  return nil;
+}
+
+- (PSSpecifier *)loadedRow:(PSSpecifier *)row as:(root::RowAction)action {
+  if (action == root::RowAction::KeepWithoutFooter) [row removePropertyForKey:@"footerText"];
+  if (action == root::RowAction::KeepAsResetTarget) {
+    TessarinPrefsListController *page = self;
+    [row setProperty:[NSValue value:&page withObjCType:@encode(id)] forKey:@"target"];
+    [row setTarget:self];
+    if ([row buttonAction] == NULL) [row setButtonAction:@selector(resetAllTessarinSettings:)];
+  }
+  return row;
+}
+
+// The status row: protection is off for the grace period or on a trusted network.
+- (PSSpecifier *)warningRow:(const root::WarningRow &)warning {
+  PSSpecifier *row = [PSSpecifier preferenceSpecifierNamed:nsString(warning.title)
+                                                    target:self
+                                                       set:NULL
+                                                       get:NULL
+                                                    detail:Nil
+                                                      cell:(PSCellType)root::kStaticTextCellType
+                                                      edit:Nil];
+  [row setProperty:[TessarinTrustedWiFiWarningCell class] forKey:@"cellClass"];
+  [row setProperty:@(warning.height) forKey:@"height"];
+  setIdentifier(row, root::kTrustedWarningId);
+  return row;
+}
+
+// Face ID or Touch ID settings: the system's own page, or first the device passcode check.
+- (PSSpecifier *)deviceAuthenticationRow:(const root::DeviceAuthRow &)auth {
+  Class detail = auth.detailClass.empty() ? Nil : NSClassFromString(nsString(auth.detailClass));
+  PSSpecifier *row = [PSSpecifier preferenceSpecifierNamed:nsString(auth.name)
+                                                    target:self
+                                                       set:NULL
+                                                       get:NULL
+                                                    detail:detail
+                                                      cell:(PSCellType)root::kDeviceAuthCellType
+                                                      edit:Nil];
+  if (!auth.loadAction.empty()) [row setControllerLoadAction:NSSelectorFromString(nsString(auth.loadAction))];
+  return row;
+}
+
+- (PSSpecifier *)creditsRow {
+  PSSpecifier *row = [PSSpecifier preferenceSpecifierNamed:nsString(root::kCreditsText)
+                                                    target:self
+                                                       set:NULL
+                                                       get:NULL
+                                                    detail:Nil
+                                                      cell:(PSCellType)root::kCreditsCellType
+                                                      edit:Nil];
+  [row setProperty:[TessarinCreditsCell class] forKey:@"cellClass"];
+  [row setProperty:@(root::kCreditsAlignment) forKey:@"alignment"];
+  return row;
+}
+
+// The group whose footer view opens the maker's catalogue.
+- (PSSpecifier *)moreAppsGroup {
+  PSSpecifier *group = footerGroup(nsString(root::kMoreAppsFooter));
+  [group setTarget:self];
+  [group setButtonAction:NSSelectorFromString(nsString(root::kMoreAppsAction))];
+  [group setProperty:nsString(root::kMoreAppsFooterCellClass) forKey:@"footerCellClass"];
+  [group setProperty:@(root::kMoreAppsHeight) forKey:@"height"];
+  // The footer view shows this text.
+  [group setProperty:nsString(root::kMoreAppsFooter) forKey:nsString(tessarin::root::label_view::kTextProperty)];
+  return group;
 }
 
 - (void)setPreferenceValue:(id)value specifier:(PSSpecifier *)specifier {
