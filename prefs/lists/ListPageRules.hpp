@@ -9,7 +9,7 @@
 
 namespace tessarin::lists {
 
-// The Settings app's own list, as the settings-pane page mirrors it.
+/// The Settings app's own list, as the settings-pane page mirrors it.
 enum class PaneRow {
     Skip,    // this product's own pane
     Group,   // a section of the Settings list: an empty group
@@ -19,14 +19,14 @@ inline constexpr std::string_view kOwnPaneName = "Tessarin";
 inline constexpr int kGroupCellType = 0;
 PaneRow paneRow(std::string_view name, int cellType);
 
-// The item a pane or toggle row stands for in its list: its "id", else its name.
+/// The item a pane or toggle row stands for in its list: its "id", else its name.
 std::string rowItem(const std::optional<std::string> &identifier, std::string_view name);
 
-// Toggles of the toggle library: every switch but this product's own.
+/// Toggles of the toggle library: every switch but this product's own.
 bool listsToggle(std::string_view switchIdentifier);
 
-// The caller-ID page on a Face ID device: the text of a row's property as shown
-// there (unchanged for rows and properties the adaptation does not touch).
+/// The caller-ID page on a Face ID device: the text of a row's property as shown
+/// there (unchanged for rows and properties the adaptation does not touch).
 inline constexpr std::string_view kCallerTopRow = "CALLERID_TOP";
 inline constexpr std::string_view kCallerFingerUpRow = "CALLERID_FINGER_UP";
 inline constexpr std::string_view kCallerHideRow = "CALLERID_HIDE_CALLER";

@@ -19,8 +19,8 @@ namespace tessarin::root {
 // ---------------------------------------------------------------------------
 // Version header.
 
-// "v<major>.<minor>-<build>" from bits 16-23, 8-15 and 0-7 of the SpringBoard
-// library version; empty while the version is 0 (the label stays empty).
+/// "v<major>.<minor>-<build>" from bits 16-23, 8-15 and 0-7 of the SpringBoard
+/// library version; empty while the version is 0 (the label stays empty).
 std::string versionText(std::uint32_t libraryVersion);
 
 // The header view and the version label inside it.
@@ -32,7 +32,7 @@ inline constexpr double kFontSize = 12;
 inline constexpr int kAlignment = kTextAlignmentRight;
 inline constexpr Rgba kText = kLightGrey;
 inline constexpr bool kClipsToBounds = false;
-// Laid out again with the page view's width on each viewDidLayoutSubviews.
+/// Laid out again with the page view's width on each viewDidLayoutSubviews.
 Rect headerFrame(double viewWidth);
 Rect versionLabelFrame(double viewWidth);
 }  // namespace header
@@ -42,21 +42,21 @@ Rect versionLabelFrame(double viewWidth);
 
 inline constexpr int kAlertControllerStyleAlert = 1;
 
-// Values of the platform's alert action styles.
+/// Values of the platform's alert action styles.
 enum class ActionStyle { Default = 0, Cancel = 1 };
 
-// What pressing a button does.
+/// What pressing a button does.
 enum class Effect {
   Nothing,
-  // The device-authentication setup (setupDecision with SetupOrigin::Prompt), on the main queue.
+  /// The device-authentication setup (setupDecision with SetupOrigin::Prompt), on the main queue.
   SetUpDeviceAuthentication,
-  // Push a new TessarinPasscodeSettingsController on the Settings app's root
-  // navigation controller, animated, from the main queue.
+  /// Push a new TessarinPasscodeSettingsController on the Settings app's root
+  /// navigation controller, animated, from the main queue.
   PushPasscodeSettings,
-  // Remove the whole preference domain, post the change notification, then show resetDoneAlert().
+  /// Remove the whole preference domain, post the change notification, then show resetDoneAlert().
   ResetAllSettings,
-  // Pop the navigation controller's parent, animated, when it responds to
-  // popViewControllerAnimated:; this leaves the product's settings.
+  /// Pop the navigation controller's parent, animated, when it responds to
+  /// popViewControllerAnimated:; this leaves the product's settings.
   LeaveProductSettings,
 };
 
@@ -69,13 +69,13 @@ struct AlertButton {
 struct Alert {
   std::string title;
   std::string message;
-  std::vector<AlertButton> buttons;  // in the order they are added
+  std::vector<AlertButton> buttons;  ///< in the order they are added
 };
 
 inline constexpr std::string_view kAlertTitle = "Tessarin";
 inline constexpr std::string_view kPasscodeSettingsControllerClass = "TessarinPasscodeSettingsController";
 
-// SpringBoard did not answer the second library-version request.
+/// SpringBoard did not answer the second library-version request.
 Alert noSpringBoardAlert();
 
 // ---------------------------------------------------------------------------
@@ -90,28 +90,28 @@ inline constexpr std::string_view kNoDefault = "No";
 inline constexpr std::string_view kSetPasscodeTitle = "Set Tessarin Passcode";
 
 struct FirstRunFacts {
-  bool idsnReplied = false;            // the "idsn" request got a reply
-  long long idsnValue = 0;             // its "idsn" value as an integer (missing: 0)
-  bool appsPresent = false;            // the "appL" reply holds "apps"
-  bool productPasscodeStored = false;  // the "passcode" preference is present
-  bool biometricSensor = false;        // iPhone64Bit
-  bool faceID = false;                 // hasPearl
-  // The bundle's localised texts for kNoPasscodeSetKey and kNoKey; empty
-  // means the English default.
+  bool idsnReplied = false;            ///< the "idsn" request got a reply
+  long long idsnValue = 0;             ///< its "idsn" value as an integer (missing: 0)
+  bool appsPresent = false;            ///< the "appL" reply holds "apps"
+  bool productPasscodeStored = false;  ///< the "passcode" preference is present
+  bool biometricSensor = false;        ///< iPhone64Bit
+  bool faceID = false;                 ///< hasPearl
+  /// The bundle's localised texts for kNoPasscodeSetKey and kNoKey; empty
+  /// means the English default.
   std::string_view noPasscodeSetText;
   std::string_view noText;
 };
 
-// The prompt sending the user to set up biometrics or the product passcode;
-// nothing when SpringBoard did not answer, biometrics are set up or a product
-// passcode is stored.
+/// The prompt sending the user to set up biometrics or the product passcode;
+/// nothing when SpringBoard did not answer, biometrics are set up or a product
+/// passcode is stored.
 std::optional<Alert> firstRunPrompt(const FirstRunFacts &facts);
 
 // ---------------------------------------------------------------------------
 // Device-authentication setup.
 
-// The setup reached from the prompt shows the jailbreak notices; the one
-// reached from an alert-view button does not.
+/// The setup reached from the prompt shows the jailbreak notices; the one
+/// reached from an alert-view button does not.
 enum class SetupOrigin { Prompt, AlertViewButton };
 
 inline constexpr std::string_view kLoaderAppId = "kjc.loader";
@@ -132,34 +132,34 @@ inline constexpr std::string_view kOkayTitle = "Okay";
 
 struct SetupFacts {
   bool faceID = false;
-  std::optional<PasscodeCharacteristics> devicePasscode;  // absent: the device has no passcode
+  std::optional<PasscodeCharacteristics> devicePasscode;  ///< absent: the device has no passcode
   bool iOS14 = false;
   bool iOS16 = false;
-  long long deviceCornerRadius = 0;  // MobileGestalt "DeviceCornerRadius" as an integer
-  bool loaderAppInstalled = false;   // the "apps" collection contains kLoaderAppId
+  long long deviceCornerRadius = 0;  ///< MobileGestalt "DeviceCornerRadius" as an integer
+  bool loaderAppInstalled = false;   ///< the "apps" collection contains kLoaderAppId
 };
 
 enum class NoticeFrom { RootPage, PushedPage };
 
 struct SetupDecision {
-  // Device without a passcode: the system's own page, made with
-  // initForContentSize: (zero size) from the first of these classes that
-  // gives one. Empty when the user passcode page is shown instead.
+  /// Device without a passcode: the system's own page, made with
+  /// initForContentSize: (zero size) from the first of these classes that
+  /// gives one. Empty when the user passcode page is shown instead.
   std::vector<std::string_view> systemPageClasses;
-  bool pushSystemPage = false;  // on the root navigation controller, animated
-  // A notice with one cancel-style "Okay" button, presented from `noticeFrom`
-  // after the push (if any). When no system page could be made, present it
-  // from the root page.
+  bool pushSystemPage = false;  ///< on the root navigation controller, animated
+  /// A notice with one cancel-style "Okay" button, presented from `noticeFrom`
+  /// after the push (if any). When no system page could be made, present it
+  /// from the root page.
   std::optional<Alert> notice;
   NoticeFrom noticeFrom = NoticeFrom::RootPage;
-  // Device with a passcode: present this controller as the child of a new
-  // navigation controller, modally from the root page, animated.
+  /// Device with a passcode: present this controller as the child of a new
+  /// navigation controller, modally from the root page, animated.
   std::string_view userPasscodeControllerClass;
 };
 
 SetupDecision setupDecision(const SetupFacts &facts, SetupOrigin origin);
 
-// The class that checks the device passcode of these characteristics.
+/// The class that checks the device passcode of these characteristics.
 std::string_view userPasscodeControllerClass(const PasscodeCharacteristics &characteristics);
 
 // ---------------------------------------------------------------------------
@@ -170,9 +170,9 @@ inline constexpr std::string_view kResetQuestion =
     "Do you want to continue?";
 inline constexpr std::string_view kResetDone = "All Tessarin settings have been reset to defaults.";
 
-// "Cancel" (does nothing) and "Reset" (Effect::ResetAllSettings).
+/// "Cancel" (does nothing) and "Reset" (Effect::ResetAllSettings).
 Alert resetQuestionAlert();
-// "OK" (Effect::LeaveProductSettings).
+/// "OK" (Effect::LeaveProductSettings).
 Alert resetDoneAlert();
 
 // ---------------------------------------------------------------------------

@@ -12,19 +12,19 @@
 
 namespace tessarin::plist {
 
-// Binary property list. UIDs (keyed-archive references) are rejected here;
-// sets are read as arrays; null and fill objects are rejected.
+/// Binary property list. UIDs (keyed-archive references) are rejected here;
+/// sets are read as arrays; null and fill objects are rejected.
 std::optional<Value> readBinaryPlist(const uint8_t *bytes, size_t size);
 
-// XML property list ("<plist version=...>"). Dates are ISO 8601 UTC
-// ("2026-11-22T10:00:00Z"; years as Apple writes them: "10000-01-01T00:00:00Z",
-// "-001-01-01T00:00:00Z" for 2 BC), data is base64.
+/// XML property list ("<plist version=...>"). Dates are ISO 8601 UTC
+/// ("2026-11-22T10:00:00Z"; years as Apple writes them: "10000-01-01T00:00:00Z",
+/// "-001-01-01T00:00:00Z" for 2 BC), data is base64.
 std::optional<Value> readXmlPlist(const uint8_t *bytes, size_t size);
 
-// Either format, chosen by the leading bytes.
+/// Either format, chosen by the leading bytes.
 std::optional<Value> readPlist(const uint8_t *bytes, size_t size);
 
-// Binary writer. An empty result means a string of the value is not valid UTF-8.
+/// Binary writer. An empty result means a string of the value is not valid UTF-8.
 std::vector<uint8_t> writeBinaryPlist(const Value &value);
 
 /// XML writer, whose documents read back the same with Apple's, Python's (plistlib)

@@ -32,15 +32,15 @@ namespace tessarin::plist {
 /// A dictionary that names a key twice keeps its first place and its last value.
 std::optional<Value> decodeKeyedArchive(const uint8_t *bytes, size_t size);
 
-// Encodes a value the way archivedDataWithRootObject: does on iOS (binary
-// property list; dictionaries as NSDictionary, arrays as NSArray, dates as
-// NSDate; strings, numbers and data inline). Empty when a string of the
-// value is not valid UTF-8.
+/// Encodes a value the way archivedDataWithRootObject: does on iOS (binary
+/// property list; dictionaries as NSDictionary, arrays as NSArray, dates as
+/// NSDate; strings, numbers and data inline). Empty when a string of the
+/// value is not valid UTF-8.
 std::vector<uint8_t> encodeKeyedArchive(const Value &root);
 
-// The same archive written as an XML property list (UIDs as "CF$UID"
-// dictionaries). Empty when writeXmlPlist would refuse the value (NSDate instances
-// carry their time as a real, so any date is written).
+/// The same archive written as an XML property list (UIDs as "CF$UID"
+/// dictionaries). Empty when writeXmlPlist would refuse the value (NSDate instances
+/// carry their time as a real, so any date is written).
 std::string encodeKeyedArchiveXml(const Value &root);
 
 }  // namespace tessarin::plist

@@ -18,10 +18,10 @@ struct RawNode {
     enum class Kind { Scalar, Uid, Array, Dictionary };
 
     Kind kind = Kind::Scalar;
-    Value scalar;                                        // Scalar: never an array or dictionary
-    uint64_t uid = 0;                                    // Uid
-    std::vector<RawNode> items;                          // Array
-    std::vector<std::pair<std::string, RawNode>> entries;  // Dictionary, file order
+    Value scalar;                                        ///< Scalar: never an array or dictionary
+    uint64_t uid = 0;                                    ///< Uid
+    std::vector<RawNode> items;                          ///< Array
+    std::vector<std::pair<std::string, RawNode>> entries;  ///< Dictionary, file order
 
     static RawNode makeScalar(Value v);
     static RawNode makeUid(uint64_t uid);
@@ -32,13 +32,13 @@ struct RawNode {
     bool isArray() const noexcept { return kind == Kind::Array; }
     bool isDictionary() const noexcept { return kind == Kind::Dictionary; }
     bool isScalar() const noexcept { return kind == Kind::Scalar; }
-    // Dictionary lookup (first match); nullptr when absent or not a dictionary.
+    /// Dictionary lookup (first match); nullptr when absent or not a dictionary.
     const RawNode *find(const char *key) const noexcept;
 };
 
-// Limits that hold for every reader: nesting depth, and the number of nodes
-// and payload bytes a file may expand to (binary files may share objects,
-// so a small file could otherwise describe an enormous tree).
+/// Limits that hold for every reader: nesting depth, and the number of nodes
+/// and payload bytes a file may expand to (binary files may share objects,
+/// so a small file could otherwise describe an enormous tree).
 inline constexpr size_t kMaxDepth = 64;
 inline constexpr size_t kMaxNodes = size_t{1} << 18;
 inline constexpr size_t kMaxPayloadBytes = size_t{16} << 20;
@@ -47,7 +47,7 @@ inline constexpr size_t kMaxPayloadBytes = size_t{16} << 20;
 /// them; nullopt when it holds a UID anywhere. A key repeated in a dictionary keeps
 /// its first place and its last value (Value::dictionary), in O(n log n) for n keys.
 std::optional<Value> toValue(RawNode &&node);
-// The inverse; never fails.
+/// The inverse; never fails.
 RawNode toRaw(const Value &value);
 
 // Readers returning the raw tree (UIDs kept). nullopt on any fault.
@@ -62,12 +62,12 @@ RawNode toRaw(const Value &value);
 /// reading only the low 64 bits would point the reference elsewhere); and trees deeper
 /// than kMaxDepth or expanding to more than kMaxNodes nodes or kMaxPayloadBytes.
 std::optional<RawNode> readBinaryPlistRaw(const uint8_t *bytes, size_t size);
-// With uidDictionaries set, a dictionary whose only key is "CF$UID" holding
-// a non-negative integer becomes a UID node, as keyed archives write them.
+/// With uidDictionaries set, a dictionary whose only key is "CF$UID" holding
+/// a non-negative integer becomes a UID node, as keyed archives write them.
 std::optional<RawNode> readXmlPlistRaw(const uint8_t *bytes, size_t size, bool uidDictionaries);
 
-// Writers of the raw tree; an empty result means the tree could not be written:
-// what writeBinaryPlist and writeXmlPlist refuse.
+/// Writers of the raw tree; an empty result means the tree could not be written:
+/// what writeBinaryPlist and writeXmlPlist refuse.
 std::vector<uint8_t> writeBinaryPlistRaw(const RawNode &root);
 std::string writeXmlPlistRaw(const RawNode &root);
 
