@@ -43,20 +43,6 @@ TEST(ButtonRules, TapsChooseByColumnAndTheLeftEdgeChoosesNothing) {
   }
 }
 
-TEST(ButtonRules, StoredValueSelectsOneRowOnly) {
-  const struct {
-    int64_t stored;
-    std::optional<int> button, glyph;
-  } cases[] = {
-      {-1, std::nullopt, std::nullopt}, {0, 0, std::nullopt}, {1, 1, std::nullopt}, {2, 2, std::nullopt},
-      {3, std::nullopt, 0},             {4, std::nullopt, 1}, {5, std::nullopt, 2}, {6, std::nullopt, std::nullopt},
-  };
-  for (const auto &c : cases) {
-    EXPECT_EQ(chosenButton(c.stored), c.button) << c.stored;
-    EXPECT_EQ(chosenGlyph(c.stored), c.glyph) << c.stored;
-  }
-}
-
 TEST(ButtonRules, GlyphStatesFollowTheSystemFlags) {
   const struct {
     const char *name;

@@ -244,6 +244,7 @@ TEST_F(ButtonPageTest, TheStoredChoiceShowsAndItsButtonStartsTwoSecondsAfterTheR
         {@(2), @[ @(NO), @(NO), @(YES) ], @[ @(0), @(0), @(0) ]},
         {@(3), @[ @(NO), @(NO), @(NO) ], @[ @(11), @(0), @(0) ]},
         {@(5), @[ @(NO), @(NO), @(NO) ], @[ @(0), @(0), @(11) ]},
+        {@(6), @[ @(NO), @(NO), @(NO) ], @[ @(0), @(0), @(0) ]},
     };
     NSArray *none = @[ @(NO), @(NO), @(NO) ];
     for (const auto &c : cases) {
@@ -392,69 +393,31 @@ TEST_F(ButtonPageTest, AChosenButtonTurnsAndSweepsAndStopsWhenAnotherIsChosen)
     EXPECT_NSEQ(layerKeys([white thumbRed]), @[ @"transform.translation.y" ]);
 }
 
-TEST_F(ButtonPageTest, TappingAGlyphThenAButton)
+// Taps on a third of either row: a glyph runs its chain step by step and keeps its palette,
+// a button choice resets every glyph, a glyph choice stops every button; each tap posts, and
+// one at a row's very left edge chooses nothing.
+TEST_F(ButtonPageTest, TappingGlyphsAndButtons)
 {
     Start();
     PSListController *page = OpenPage();
     PSTableCell *buttons = Cell(page, @"TessarinButtonIconCell");
     PSTableCell *glyphs = Cell(page, @"TessarinGlyphIconCell");
     ASSERT_EQ([Glyphs(glyphs) count], 3u);
-
-    unsigned posts = SimNotifyPostCount(kPrefsChanged);
-    TapRow(glyphs, 250);  // the red glyph
-    EXPECT_NSEQ(StoredIconColor(), @(5));
-    EXPECT_EQ(SimNotifyPostCount(kPrefsChanged), posts + 1);
-    EXPECT_EQ([[glyphs blueView] state], 0) << "the other glyphs go back to 0";
-    EXPECT_EQ([[glyphs blackView] state], 0);
-    ASSERT_TRUE(SimRunLoopRunUntil(^BOOL { return [[glyphs redView] state] == 11; }, kChainSettle));
-
-    const struct {
-        CGFloat x;
-        int stored;
-        int animating;
-    } taps[] = {{50, 0, 0}, {106, 1, 1}, {319, 2, 2}};
-    for (const auto &t : taps) {
-        TapRow(buttons, t.x);
-        EXPECT_NSEQ(StoredIconColor(), @(t.stored)) << t.x;
-        for (int i = 0; i < 3; i++) EXPECT_EQ([[Buttons(buttons) objectAtIndex:i] isAnimating], i == t.animating) << t.x;
-        EXPECT_EQ([[glyphs redView] state], 0) << "a button choice resets every glyph";
-    }
-    EXPECT_EQ(SimNotifyPostCount(kPrefsChanged), posts + 4);
-
-    // Choosing a glyph again stops every button.
-    TapRow(glyphs, 10);
-    EXPECT_NSEQ(StoredIconColor(), @(3));
-    EXPECT_NSEQ(Animating(buttons), (@[ @(NO), @(NO), @(NO) ]));
-}
-
-TEST_F(ButtonPageTest, ATapAtTheLeftEdgeStoresNothingButPosts)
-{
-    Start();
-    StoreIconColor(@(1));
-    PSListController *page = OpenPage();
-    PSTableCell *buttons = Cell(page, @"TessarinButtonIconCell");
-    PSTableCell *glyphs = Cell(page, @"TessarinGlyphIconCell");
     unsigned posts = SimNotifyPostCount(kPrefsChanged);
     TapRow(buttons, 0);
     TapRow(glyphs, 0);
-    EXPECT_NSEQ(StoredIconColor(), @(1));
+    EXPECT_EQ(StoredIconColor(), nil);
     EXPECT_EQ(SimNotifyPostCount(kPrefsChanged), posts + 2);
-    for (id g in Glyphs(glyphs)) EXPECT_NSEQ([g _simStates], [NSArray array]) << "no glyph moved";
-}
+    EXPECT_NSEQ([[glyphs blueView] _simStates], numbers({11})) << "no glyph moved";
 
-TEST_F(ButtonPageTest, TheChainOfAChosenGlyphWithTheIOS11Flag)
-{
-    Start();
-    PSListController *page = OpenPage();
-    PSTableCell *glyphs = Cell(page, @"TessarinGlyphIconCell");
-    ASSERT_EQ([Glyphs(glyphs) count], 3u);
-    id black = [glyphs blackView];
-    TapRow(glyphs, 1);
-    EXPECT_NSEQ([black _simStates], numbers({1})) << "one step at a time";
-    ASSERT_TRUE(SimRunLoopRunUntil(^BOOL { return [[black _simStates] count] == 4; }, kChainSettle));
-    EXPECT_NSEQ([black _simStates], numbers({1, 8, 1, 11}));
-    // The blue glyph, chosen when the page opened, went back to 0.
-    EXPECT_NSEQ([[glyphs blueView] _simStates], numbers({11, 0}));
+    id red = [glyphs redView];
+    TapRow(glyphs, 250);
+    EXPECT_NSEQ(StoredIconColor(), @(5));
+    EXPECT_EQ(SimNotifyPostCount(kPrefsChanged), posts + 3);
+    EXPECT_NSEQ([red _simStates], numbers({1})) << "one step at a time";
+    EXPECT_NSEQ([[glyphs blueView] _simStates], numbers({11, 0})) << "the other glyphs go back to 0";
+    ASSERT_TRUE(SimRunLoopRunUntil(^BOOL { return [[red _simStates] count] == 4; }, kChainSettle));
+    EXPECT_NSEQ([red _simStates], numbers({1, 8, 1, 11}));
     // Whatever PassKit set on the way, each glyph keeps its own palette: black 3, blue 2, red 1.
     const struct {
         SEL glyph;
@@ -466,6 +429,22 @@ TEST_F(ButtonPageTest, TheChainOfAChosenGlyphWithTheIOS11Flag)
         EXPECT_TRUE(sameColour([g primaryColor], [g _primaryColorForStyle:p.style mode:0])) << p.style;
         EXPECT_TRUE(sameColour([g secondaryColor], [g _secondaryColorForStyle:p.style mode:0])) << p.style;
     }
+
+    const struct {
+        CGFloat x;
+        int stored;
+    } taps[] = {{50, 0}, {106, 1}, {319, 2}};
+    for (const auto &t : taps) {
+        TapRow(buttons, t.x);
+        EXPECT_NSEQ(StoredIconColor(), @(t.stored)) << t.x;
+        for (int i = 0; i < 3; i++) EXPECT_EQ([[Buttons(buttons) objectAtIndex:i] isAnimating], i == t.stored) << t.x;
+        EXPECT_EQ([red state], 0) << "a button choice resets every glyph";
+    }
+    EXPECT_EQ(SimNotifyPostCount(kPrefsChanged), posts + 6);
+
+    TapRow(glyphs, 1);
+    EXPECT_NSEQ(StoredIconColor(), @(3));
+    EXPECT_NSEQ(Animating(buttons), (@[ @(NO), @(NO), @(NO) ]));
 }
 
 TEST_F(ButtonPageTest, TheChainOfAChosenGlyphWithoutTheIOS11Flag)
