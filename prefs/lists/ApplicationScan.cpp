@@ -1,5 +1,7 @@
 #include "lists/ApplicationScan.hpp"
 
+#include "lists/SearchText.hpp"
+
 namespace tessarin::lists {
 
 std::string sourceDirectory(AppSource source, bool containerRootExists) {
@@ -53,9 +55,9 @@ bool AllowedApplications::allows(const std::optional<std::string> &bundleIdentif
 std::optional<std::string> ApplicationListing::consider(AppSource source, const InfoValue &localised,
                                                         const std::optional<std::string> &bundleIdentifier) {
     std::optional<std::string> name;
-    if (localised.isString()) name = localised.text;
+    if (localised.isString() && !isBlankName(localised.text)) name = localised.text;
     if (source == AppSource::ContainerRoot) {
-        if (!name) name = bundleIdentifier;
+        if (!name && bundleIdentifier && !isBlankName(*bundleIdentifier)) name = bundleIdentifier;
         if (name && names_.count(*name) > 0) return std::nullopt;
     }
     if (!name || !allowed_.allows(bundleIdentifier)) return std::nullopt;

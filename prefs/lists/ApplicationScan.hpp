@@ -80,7 +80,8 @@ public:
     /// string). In the first three sources a candidate needs a string name; in the
     /// container root a candidate without one is named by its bundle identifier
     /// and one whose name was already listed is skipped. Then the identifier must
-    /// be allowed.
+    /// be allowed. A name that shows nothing (empty, or only spaces and invisible
+    /// marks: isBlankName) counts as none, so no row stands there without a title.
     std::optional<std::string> consider(AppSource source, const InfoValue &localised,
                                         const std::optional<std::string> &bundleIdentifier);
 

@@ -11,14 +11,16 @@ namespace {
 
 namespace lists = tessarin::lists;
 
-// The name through the bundle's "InfoPlist" table. A name of the wrong type is not
-// handed to the lookup as its default: it stays what it was unless the table names
-// the application.
+// The name through the bundle's "InfoPlist" table. A name of the wrong type, or an empty
+// one, is not handed to the lookup as its default (for an empty default NSBundle answers
+// the key itself, "CFBundleDisplayName"): it stays what it was unless the table names the
+// application.
 lists::InfoValue localisedName(NSBundle *bundle, const lists::InfoValue &name) {
   static NSString *const notInTable = @"\x01not in the table";
-  NSString *fallback = name.isString() ? nsString(name.text) : notInTable;
+  NSString *given = name.isString() ? nsString(name.text) : nil;
+  NSString *fallback = [given length] > 0 ? given : notInTable;
   NSString *localised = [bundle localizedStringForKey:@"CFBundleDisplayName" value:fallback table:@"InfoPlist"];
-  if (!name.isString() && [localised isEqual:notInTable]) return name;
+  if (fallback == notInTable && [localised isEqual:notInTable]) return name;
   return nameValue(localised);
 }
 
