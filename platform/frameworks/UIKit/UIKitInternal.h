@@ -65,3 +65,25 @@ void SimUIKitSetKeyWindow(UIWindow *window);
 @interface UIGestureRecognizer (SimInternal)
 - (BOOL)_simRecognizeTap:(UITouch *)touch;
 @end
+
+@interface UITextField (SimInternal)
+/* A change of the text as typing makes it: the delegate may refuse it; EditingChanged follows. */
+- (void)_simReplaceRange:(NSRange)range with:(NSString *)string;
+@end
+
+@interface UISearchBar (SimInternal)
+/* The search controller the bar belongs to (not retained). */
+- (id)_simSearchController;
+- (void)_simSetSearchController:(id)controller;
+@end
+
+@interface UISearchController (SimInternal)
+- (void)_simSearchBarDidBeginEditing:(UISearchBar *)bar;
+- (void)_simSearchBarTextDidChange:(UISearchBar *)bar;
+- (void)_simSearchBarCancelled:(UISearchBar *)bar;
+@end
+
+@interface UITableView (SimSectionIndex)
+/* Places the section index along the visible right edge (layout). */
+- (void)_simLayOutSectionIndex;
+@end

@@ -461,6 +461,7 @@ const CGFloat UITableViewAutomaticDimension = -1;
   _selectedIndexPath = nil;
   CGRect last = [self rectForSection:self.numberOfSections - 1];
   self.contentSize = CGSizeMake(self.bounds.size.width, CGRectGetMaxY(last) + (_tableFooterView ? _tableFooterView.frame.size.height : 0));
+  [self reloadSectionIndexTitles];
   [self setNeedsLayout];
 }
 - (void)reloadSections:(NSIndexSet *)sections withRowAnimation:(UITableViewRowAnimation)animation {
@@ -532,7 +533,24 @@ const CGFloat UITableViewAutomaticDimension = -1;
   id<UITableViewDelegate> d = self.delegate;
   return [d respondsToSelector:@selector(tableView:viewForFooterInSection:)] ? [d tableView:self viewForFooterInSection:section] : nil;
 }
+// The row (for a row NSNotFound, the section from its header) brought to the asked place on
+// screen, the offset kept within the content.
 - (void)scrollToRowAtIndexPath:(NSIndexPath *)path atScrollPosition:(UITableViewScrollPosition)pos animated:(BOOL)animated {
+  if (!path || path.section < 0 || path.section >= self.numberOfSections) return;
+  if (path.row != NSNotFound && ![self _simValidIndexPath:path]) return;
+  CGRect target = path.row == NSNotFound ? [self rectForSection:path.section] : [self rectForRowAtIndexPath:path];
+  CGRect visible = self.bounds;
+  UIEdgeInsets inset = self.contentInset;
+  CGFloat y = visible.origin.y, height = visible.size.height - inset.top - inset.bottom;
+  if (pos == UITableViewScrollPositionNone)
+    pos = target.origin.y < y + inset.top ? UITableViewScrollPositionTop
+          : CGRectGetMaxY(target) > y + inset.top + height ? UITableViewScrollPositionBottom
+                                                            : UITableViewScrollPositionNone;
+  if (pos == UITableViewScrollPositionTop) y = target.origin.y - inset.top;
+  if (pos == UITableViewScrollPositionMiddle) y = CGRectGetMidY(target) - height / 2 - inset.top;
+  if (pos == UITableViewScrollPositionBottom) y = CGRectGetMaxY(target) - height - inset.top;
+  CGFloat lowest = -inset.top, highest = fmax(self.contentSize.height + inset.bottom - visible.size.height, lowest);
+  [self setContentOffset:CGPointMake(visible.origin.x, fmin(fmax(y, lowest), highest)) animated:animated];
 }
 - (NSIndexPath *)indexPathForSelectedRow {
   return _selectedIndexPath;
@@ -620,6 +638,7 @@ const CGFloat UITableViewAutomaticDimension = -1;
     cell.frame = [self rectForRowAtIndexPath:p];
   }
   [self _simLayOutVisibleRows];
+  [self _simLayOutSectionIndex];
 }
 @end
 

@@ -507,6 +507,7 @@ enum { kDisappeared = 0, kAppearing = 1, kAppeared = 2, kDisappearing = 3 };
   [_backBarButtonItem release];
   [_leftBarButtonItems release];
   [_rightBarButtonItems release];
+  [_searchController release];
   [super dealloc];
 }
 - (void)setHidesBackButton:(BOOL)hidden animated:(BOOL)animated {

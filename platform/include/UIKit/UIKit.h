@@ -27,10 +27,12 @@
 #import <UIKit/UIButton.h>
 #import <UIKit/UISwitch.h>
 #import <UIKit/UITextField.h>
+#import <UIKit/UISearchBar.h>
 #import <UIKit/UIScrollView.h>
 #import <UIKit/UITableViewCell.h>
 #import <UIKit/UITableView.h>
 #import <UIKit/UIViewController.h>
+#import <UIKit/UISearchController.h>
 #import <UIKit/UIBarButtonItem.h>
 #import <UIKit/UINavigationBar.h>
 #import <UIKit/UINavigationController.h>

@@ -42,6 +42,20 @@ UIKIT_EXTERN BOOL SimTableViewSelectRow(UITableView *tableView, NSIndexPath *ind
 /* Commits an edit (e.g. a swipe-to-delete) through the table's data source. */
 UIKIT_EXTERN BOOL SimTableViewCommitEditing(UITableView *tableView, UITableViewCellEditingStyle style, NSIndexPath *indexPath);
 
+/* The user types `text` into a search bar: the bar takes the keyboard (its search controller,
+   if any, becomes active), then one keystroke per character. NO when the bar refuses. */
+UIKIT_EXTERN BOOL SimSearchBarType(UISearchBar *bar, NSString *text);
+/* The clear button of the bar's field: the text goes in one change; the bar keeps the keyboard. */
+UIKIT_EXTERN BOOL SimSearchBarClear(UISearchBar *bar);
+/* The bar's Cancel button (shown while its search is active): the delegate hears of it and the
+   search controller is dismissed. */
+UIKIT_EXTERN BOOL SimSearchBarTapCancel(UISearchBar *bar);
+/* The titles of the table's section index as it shows them, or nil when it shows none. */
+UIKIT_EXTERN NSArray *SimTableViewSectionIndexTitles(UITableView *tableView);
+/* A touch on the section index at `title`: the table scrolls to the section its data source
+   names for it. NO when no index shows that title or interaction is ignored. */
+UIKIT_EXTERN BOOL SimTableViewTapSectionIndex(UITableView *tableView, NSString *title);
+
 /* A navigation controller held as one level of another's stack, as a collapsed split view
    shows its detail navigation on a phone (pushViewController:animated: refuses them). */
 @interface UINavigationController (Simulation)

@@ -5,6 +5,7 @@
 #import <UIKit/UIBarButtonItem.h>
 
 @class UIColor;
+@class UISearchController;
 
 typedef NS_ENUM(NSInteger, UIBarStyle){
     UIBarStyleDefault = 0,
@@ -20,6 +21,8 @@ typedef NS_ENUM(NSInteger, UIBarStyle){
   NSArray *_rightBarButtonItems;
   BOOL _hidesBackButton;
   NSInteger _largeTitleDisplayMode;
+  UISearchController *_searchController;
+  BOOL _showsSearchBarWhileScrolling;
 }
 - (instancetype)initWithTitle:(NSString *)title;
 @property(nonatomic, copy) NSString *title;
@@ -37,6 +40,13 @@ typedef NS_ENUM(NSInteger, UIBarStyle){
 - (void)setLeftBarButtonItem:(UIBarButtonItem *)item animated:(BOOL)animated;
 - (void)setRightBarButtonItem:(UIBarButtonItem *)item animated:(BOOL)animated;
 @property(nonatomic) NSInteger largeTitleDisplayMode;
+@end
+
+@interface UINavigationItem (UISearchController)
+/* iOS 11: the search controller whose bar the navigation bar shows, and whether the bar
+   hides as the page's content scrolls up (default YES; NO keeps it pinned). */
+@property(nonatomic, retain) UISearchController *searchController;
+@property(nonatomic) BOOL hidesSearchBarWhenScrolling;
 @end
 
 @interface UINavigationBar : UIView {

@@ -51,6 +51,9 @@ UIKIT_EXTERN const CGFloat UITableViewAutomaticDimension;
 - (NSString *)tableView:(UITableView *)tableView titleForFooterInSection:(NSInteger)section;
 - (BOOL)tableView:(UITableView *)tableView canEditRowAtIndexPath:(NSIndexPath *)indexPath;
 - (void)tableView:(UITableView *)tableView commitEditingStyle:(UITableViewCellEditingStyle)editingStyle forRowAtIndexPath:(NSIndexPath *)indexPath;
+/* The section index: its titles (nil: no index), and the section a title leads to. */
+- (NSArray *)sectionIndexTitlesForTableView:(UITableView *)tableView;
+- (NSInteger)tableView:(UITableView *)tableView sectionForSectionIndexTitle:(NSString *)title atIndex:(NSInteger)index;
 @end
 
 @protocol UITableViewDelegate <UIScrollViewDelegate>
@@ -146,6 +149,11 @@ UIKIT_EXTERN const CGFloat UITableViewAutomaticDimension;
 - (UITableViewCell *)dequeueReusableCellWithIdentifier:(NSString *)identifier;
 - (UITableViewCell *)dequeueReusableCellWithIdentifier:(NSString *)identifier forIndexPath:(NSIndexPath *)indexPath;
 - (void)registerClass:(Class)cellClass forCellReuseIdentifier:(NSString *)identifier;
+@end
+
+@interface UITableView (UITableViewIndex)
+/* Asks the data source for the section index's titles again (reloadData does too). */
+- (void)reloadSectionIndexTitles;
 @end
 
 #endif
