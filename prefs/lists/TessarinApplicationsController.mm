@@ -61,9 +61,9 @@ lists::AllowedApplications allowedApplications() {
 
 #pragma mark - Rows
 
-- (NSMutableArray *)specifiers {
-  if (_specifiers != nil) return (NSMutableArray *)_specifiers;
-
+// Built once, when the page first needs its rows (the list is not scanned again while the
+// page lives; the base class keeps it).
+- (NSMutableArray *)listRows {
   lists::ApplicationListing listing(allowedApplications());
   NSMutableArray *rows = [NSMutableArray array];
   [rows addObject:footerGroup(localizedString(
@@ -98,9 +98,7 @@ lists::AllowedApplications allowedApplications() {
   NSSortDescriptor *byName = [NSSortDescriptor sortDescriptorWithKey:@"name"
                                                            ascending:YES
                                                             selector:@selector(localizedCaseInsensitiveCompare:)];
-  NSArray *sorted = [rows sortedArrayUsingDescriptors:@[ byName ]];
-  _specifiers = [sorted mutableCopy];
-  return (NSMutableArray *)_specifiers;
+  return [[[rows sortedArrayUsingDescriptors:@[ byName ]] mutableCopy] autorelease];
 }
 
 #pragma mark - Switches
