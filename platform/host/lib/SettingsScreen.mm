@@ -391,6 +391,55 @@ static NSString *sliderText(id value, PSSpecifier *specifier) {
   [lines addObject:[NSString stringWithFormat:@"    %@ link: %@", number, linkText != nil ? linkText : @"(link)"]];
 }
 
+// The page's search field as the navigation bar shows it: under the title while the list
+// is at its top or a search is on (a bar that hides when scrolling has gone up with the
+// list otherwise), with the Cancel button while searching.
+static void addSearchField(UIViewController *page, UITableView *table, NSMutableArray *lines) {
+  UINavigationItem *navigationItem = [page navigationItem];
+  UISearchController *search = [navigationItem searchController];
+  if (search == nil) return;
+  BOOL active = [search isActive];
+  if ([navigationItem hidesSearchBarWhenScrolling] && !active && table.contentOffset.y > 0) return;
+  NSString *text = [[search searchBar] text];
+  NSString *shown = [text length] > 0 ? text : ([[search searchBar] placeholder] ?: @"Search");
+  NSString *field = [NSString stringWithFormat:@"  [ %@ ]", [shown stringByPaddingToLength:MAX([shown length], 50)
+                                                                                withString:@" "
+                                                                           startingAtIndex:0]];
+  [lines addObject:active ? [field stringByAppendingString:@"  Cancel"] : field];
+}
+
+// The letters of the table's section index, as it shows them down the right edge.
+static void addSectionIndex(UITableView *table, NSMutableArray *lines) {
+  NSArray *titles = SimTableViewSectionIndexTitles(table);
+  if ([titles count] > 0) [lines addObject:[@"  Index: " stringByAppendingString:[titles componentsJoinedByString:@" "]]];
+}
+
+// Where the table's screen begins once it has scrolled: the section or row at its top edge
+// (nil at the top of the list). `group` YES: the screen begins with the section's header.
+static NSIndexPath *screenTop(UITableView *table, BOOL *group) {
+  const CGFloat top = table.contentOffset.y + table.contentInset.top;
+  if (table.contentOffset.y <= 0) return nil;
+  const NSInteger sections = [table numberOfSections];
+  for (NSInteger section = 0; section < sections; section++) {
+    CGRect rect = [table rectForSection:section];
+    if (CGRectGetMaxY(rect) <= top) continue;
+    *group = rect.origin.y >= top - 0.5;
+    if (*group) return [NSIndexPath indexPathForRow:0 inSection:section];
+    const NSInteger rows = [table numberOfRowsInSection:section];
+    for (NSInteger row = 0; row < rows; row++) {
+      NSIndexPath *path = [NSIndexPath indexPathForRow:row inSection:section];
+      if (CGRectGetMaxY([table rectForRowAtIndexPath:path]) > top) return path;
+    }
+    *group = YES;
+    return [NSIndexPath indexPathForRow:0 inSection:section + 1];
+  }
+  return nil;
+}
+
+static NSString *screenTopLine(void) {
+  return [@"  " stringByAppendingString:[rule(@"-") substringToIndex:kScreenWidth - 4]];
+}
+
 - (void)renderList:(UIViewController *)page into:(NSMutableArray *)lines items:(NSMutableArray *)items {
   NSArray *specifiers = nil;
   @try {
@@ -399,14 +448,25 @@ static NSString *sliderText(id value, PSSpecifier *specifier) {
     [lines addObject:[NSString stringWithFormat:@"  (the page failed to build its rows: %@)", [exception reason]]];
     return;
   }
+  UITableView *table = [page isViewLoaded] ? [(PSListController *)page table] : nil;
+  addSearchField(page, table, lines);
+  addSectionIndex(table, lines);
   if ([specifiers count] == 0) {
     [lines addObject:@"  (no rows)"];
     return;
   }
+  BOOL topIsGroup = NO;
+  NSIndexPath *top = table != nil ? screenTop(table, &topIsGroup) : nil;
+  NSInteger section = -1, row = -1;
   PSSpecifier *group = nil;
   for (PSSpecifier *specifier in specifiers) {
     if (![specifier isKindOfClass:[PSSpecifier class]]) continue;
     long type = (long)[specifier cellType];
+    // Rows before the first group make a section of their own, as the table shows them.
+    if (type == kGroupCell || section < 0) section++, row = -1;
+    if (type != kGroupCell) row++;
+    if (top != nil && top.section == section && (type == kGroupCell ? topIsGroup : !topIsGroup && top.row == row))
+      [lines addObject:screenTopLine()];
     if (type == kGroupCell) {
       [self addFooter:group page:page into:lines items:items];
       group = specifier;
