@@ -125,12 +125,25 @@ std::vector<std::string> searchFolders(NSString *top, NSString *developmentRegio
     return folders;
 }
 
+// The property list in `data`, or nil. CFBundle reads a bundle's plists with
+// CFPropertyListCreateWithData, which answers NULL for bytes it cannot read; GNUstep's
+// reader raises for some (a binary plist cut short), so a raise counts as nothing read.
+id readPropertyList(NSData *data)
+{
+    if (data == nil) return nil;
+    @try {
+        return [NSPropertyListSerialization propertyListWithData:data options:0 format:NULL error:NULL];
+    } @catch (NSException *) {
+        return nil;
+    }
+}
+
 // A strings table: a property list (binary or XML), or the old text format.
 NSDictionary *readStringsTable(NSString *path)
 {
     NSData *data = [NSData dataWithContentsOfFile:path];
     if (data == nil) return nil;
-    id table = [NSPropertyListSerialization propertyListWithData:data options:0 format:NULL error:NULL];
+    id table = readPropertyList(data);
     if (![table isKindOfClass:[NSDictionary class]]) {
         NSString *text = [[[NSString alloc] initWithData:data encoding:NSUTF8StringEncoding] autorelease];
         if (text == nil) text = [[[NSString alloc] initWithData:data encoding:NSUTF16StringEncoding] autorelease];
@@ -193,7 +206,7 @@ NSDictionary *readStringsTable(NSString *path)
 {
     if (_info == nil) {
         NSData *data = [NSData dataWithContentsOfFile:[_hostPath stringByAppendingPathComponent:@"Info.plist"]];
-        id info = data ? [NSPropertyListSerialization propertyListWithData:data options:0 format:NULL error:NULL] : nil;
+        id info = readPropertyList(data);
         self.info = [info isKindOfClass:[NSDictionary class]] ? info : [NSDictionary dictionary];
     }
     return _info;
