@@ -375,40 +375,44 @@ TEST_F(ApplicationSearchTest, OddInfoPlistsNeverBreakThePage) {
         NSData *infoPlist;   // written as the bundle's Info.plist (nil: none)
         bool directory;      // an Info.plist that is a directory
         bool unreadable;     // mode 000 (only where the tests do not run as root)
+        bool loop;           // a link to itself: no one can read it
         NSDictionary *strings;
         NSString *listedOutside;    // the row's name in /Applications (nil: skipped)
         NSString *listedContainer;  // the row's name in the bundle container root (nil: skipped)
     };
     const Case cases[] = {
-        {"no Info.plist", nil, false, false, nil, nil, nil},
-        {"an Info.plist that is a directory", nil, true, false, nil, nil, nil},
+        {"no Info.plist", nil, false, false, false, nil, nil, nil},
+        {"an Info.plist that is a directory", nil, true, false, false, nil, nil, nil},
         {"an unreadable Info.plist", plist(@{@"CFBundleIdentifier" : @"com.odd.locked", @"CFBundleName" : @"Locked"}), false,
-         true, nil, nil, nil},
+         true, false, nil, nil, nil},
+        {"an Info.plist that links to itself", nil, false, false, true, nil, nil, nil},
         {"bytes that are no property list", [@"\x01\x02 not a plist <dict>" dataUsingEncoding:NSUTF8StringEncoding], false,
-         false, nil, nil, nil},
-        {"a binary property list cut short", [NSData dataWithBytes:"bplist00\xd1\x01\x02" length:11], false, false, nil, nil,
-         nil},
-        {"an array", plist(@[ @"com.odd.array", @"Array" ]), false, false, nil, nil, nil},
-        {"a string", plist(@"com.odd.string"), false, false, nil, nil, nil},
-        {"names all absent", plist(@{@"CFBundleIdentifier" : @"com.odd.nameless"}), false, false, nil, nil,
+         false, false, nil, nil, nil},
+        {"a binary property list cut short", [NSData dataWithBytes:"bplist00\xd1\x01\x02" length:11], false, false, false,
+         nil, nil, nil},
+        {"an array", plist(@[ @"com.odd.array", @"Array" ]), false, false, false, nil, nil, nil},
+        {"a string", plist(@"com.odd.string"), false, false, false, nil, nil, nil},
+        {"names all absent", plist(@{@"CFBundleIdentifier" : @"com.odd.nameless"}), false, false, false, nil, nil,
          @"com.odd.nameless"},
         {"names all empty",
          plist(@{@"CFBundleIdentifier" : @"com.odd.empty", @"CFBundleDisplayName" : @"", @"CFBundleName" : @"",
                  @"CFBundleExecutable" : @""}),
-         false, false, nil, nil, @"com.odd.empty"},
+         false, false, false, nil, nil, @"com.odd.empty"},
         {"names of the wrong type",
          plist(@{@"CFBundleIdentifier" : @"com.odd.typed", @"CFBundleDisplayName" : @[ @"x" ], @"CFBundleName" : @(4),
                  @"CFBundleExecutable" : @{@"a" : @"b"}}),
-         false, false, nil, nil, @"com.odd.typed"},
+         false, false, false, nil, nil, @"com.odd.typed"},
         {"a name of only invisible marks",
-         plist(@{@"CFBundleIdentifier" : @"com.odd.invisible", @"CFBundleDisplayName" : @"\u200E\u200F \u2066\u2069"}), false,
-         false, nil, nil, @"com.odd.invisible"},
+         plist(@{@"CFBundleIdentifier" : @"com.odd.invisible", @"CFBundleDisplayName" : @"\u200E\u200F \u2066\u2069"}),
+         false, false, false, nil, nil, @"com.odd.invisible"},
         {"strings that name it with nothing",
-         plist(@{@"CFBundleIdentifier" : @"com.odd.blanked", @"CFBundleDisplayName" : @"Blanked"}), false, false,
+         plist(@{@"CFBundleIdentifier" : @"com.odd.blanked", @"CFBundleDisplayName" : @"Blanked"}), false, false, false,
          @{@"en" : @{@"CFBundleDisplayName" : @""}}, nil, @"com.odd.blanked"},
-        {"no name and an identifier of the wrong type", plist(@{@"CFBundleIdentifier" : @(12)}), false, false, nil, nil, nil},
-        {"a plain application beside them", plist(@{@"CFBundleIdentifier" : @"com.odd.plain", @"CFBundleDisplayName" : @"Plain"}),
-         false, false, nil, @"Plain", @"Plain"},
+        {"no name and an identifier of the wrong type", plist(@{@"CFBundleIdentifier" : @(12)}), false, false, false, nil,
+         nil, nil},
+        {"a plain application beside them",
+         plist(@{@"CFBundleIdentifier" : @"com.odd.plain", @"CFBundleDisplayName" : @"Plain"}), false, false, false, nil,
+         @"Plain", @"Plain"},
     };
     const bool root = geteuid() == 0;
     for (const Case &c : cases) {
@@ -425,6 +429,7 @@ TEST_F(ApplicationSearchTest, OddInfoPlistsNeverBreakThePage) {
             if (c.directory) ASSERT_EQ(mkdir(HostPath(info.c_str()).c_str(), 0755), 0);
             if (c.infoPlist != nil) WriteDeviceFile(info.c_str(), c.infoPlist);
             if (c.unreadable) ASSERT_EQ(chmod(HostPath(info.c_str()).c_str(), 0), 0);
+            if (c.loop) ASSERT_EQ(symlink(HostPath(info.c_str()).c_str(), HostPath(info.c_str()).c_str()), 0);
 
             PSListController *page = Show(kPages[0]);
             NSString *listed = [source isEqual:@"Applications"] ? c.listedOutside : c.listedContainer;
