@@ -68,3 +68,45 @@ TEST_F(HostListPagesTest, CCSettingsTogglesWithoutTheirSettingsBundleHaveNoIcons
     Run("switch " + std::to_string(NumberOf(screen_, "LTE")) + " on");
     EXPECT_NSEQ([StoredPreferences() objectForKey:@"protectedCCSettingsItems"], @[ @"dataRate" ]);
 }
+
+TEST_F(HostListPagesTest, SearchAndTheIndexFromTheConsole) {
+    Open(SIM_DEFAULT_PROFILE, "Applications");
+    EXPECT_TRUE(Contains(screen_, "[ Search ")) << screen_;
+    EXPECT_TRUE(Contains(screen_, "Index: A B C D E F G H I J K L M N O P Q R S T U V W X Y Z #")) << screen_;
+
+    Run("search saf");
+    EXPECT_TRUE(Contains(LineWith(screen_, "[ saf "), "Cancel")) << screen_;
+    EXPECT_EQ(NumberOf(screen_, "MobileSafari"), 1u) << screen_;
+    EXPECT_EQ(NumberOf(screen_, "Notes"), 0u) << screen_;
+    EXPECT_FALSE(Contains(screen_, "Index:")) << screen_;
+
+    Run("search com.apple.");  // what the field held gives way to the new words
+    EXPECT_TRUE(Contains(screen_, "[ com.apple. ")) << screen_;
+    EXPECT_GT(NumberOf(screen_, "Notes"), 0u) << screen_;
+    EXPECT_EQ(NumberOf(screen_, "Instagram"), 0u) << screen_;
+    Run("flip " + std::to_string(NumberOf(screen_, "MobileSafari")));
+    EXPECT_NSEQ([StoredPreferences() objectForKey:@"protected"], @[ @"com.apple.mobilesafari" ]);
+    EXPECT_TRUE(Contains(LineWith(screen_, "MobileSafari"), "[on]")) << screen_;
+
+    Run("search zzz");
+    EXPECT_TRUE(Contains(screen_, "No Results")) << screen_;
+    EXPECT_EQ(NumberOf(screen_, "MobileSafari"), 0u) << screen_;
+
+    Run("search");
+    EXPECT_FALSE(Contains(LineWith(screen_, "[ Search "), "Cancel")) << screen_;
+    EXPECT_TRUE(Contains(screen_, "Index: A")) << screen_;
+    EXPECT_TRUE(Contains(LineWith(screen_, "MobileSafari"), "[on]")) << screen_;
+    EXPECT_GT(NumberOf(screen_, "Instagram"), 0u) << screen_;
+    EXPECT_EQ(Run("search"), "The search field is empty.\n");
+
+    // A touch on T scrolls as far down as the list goes: the screen begins lower and the
+    // search field has scrolled away with the list.
+    Run("index t");
+    EXPECT_TRUE(Contains(screen_, "Index:")) << screen_;
+    EXPECT_TRUE(Contains(screen_, "  -----")) << screen_;
+    EXPECT_FALSE(Contains(screen_, "[ Search ")) << screen_;
+    EXPECT_EQ(Run("index 7"), "The index has no \"7\": it shows A B C D E F G H I J K L M N O P Q R S T U V W X Y Z #.\n");
+    Run("back");
+    EXPECT_EQ(Run("search saf"), "This page has no search field.\n");
+    EXPECT_EQ(Run("index A"), "This page shows no index.\n");
+}
