@@ -13,6 +13,8 @@ const CGFloat UITableViewAutomaticDimension = -1;
 @synthesize allowsSelection = _allowsSelection;
 @synthesize allowsSelectionDuringEditing = _allowsSelectionDuringEditing;
 @synthesize allowsMultipleSelection = _allowsMultipleSelection;
+@synthesize separatorColor = _separatorColor;
+@synthesize backgroundView = _backgroundView;
 - (instancetype)initWithFrame:(CGRect)frame {
   return [self initWithFrame:frame style:UITableViewStylePlain];
 }
@@ -63,14 +65,6 @@ const CGFloat UITableViewAutomaticDimension = -1;
 - (void)setSectionFooterHeight:(CGFloat)h {
   _sectionFooterHeight = h;
 }
-- (UIColor *)separatorColor {
-  return _separatorColor;
-}
-- (void)setSeparatorColor:(UIColor *)color {
-  [color retain];
-  [_separatorColor release];
-  _separatorColor = color;
-}
 - (UIView *)tableHeaderView {
   return _tableHeaderView;
 }
@@ -94,14 +88,6 @@ const CGFloat UITableViewAutomaticDimension = -1;
   [_tableFooterView release];
   _tableFooterView = [view retain];
   if (view) [self addSubview:view];
-}
-- (UIView *)backgroundView {
-  return _backgroundView;
-}
-- (void)setBackgroundView:(UIView *)view {
-  [view retain];
-  [_backgroundView release];
-  _backgroundView = view;
 }
 - (BOOL)isEditing {
   return _editing;

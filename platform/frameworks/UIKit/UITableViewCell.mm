@@ -16,6 +16,7 @@
 @synthesize indentationLevel = _indentationLevel;
 @synthesize indentationWidth = _indentationWidth;
 @synthesize separatorInset = _separatorInset;
+@synthesize selectedBackgroundView = _selectedBackgroundView;
 - (instancetype)initWithFrame:(CGRect)frame {
   return [self initWithStyle:UITableViewCellStyleDefault reuseIdentifier:nil];
 }
@@ -105,14 +106,6 @@
   _backgroundView = [view retain];
   if (view) [self insertSubview:view atIndex:0];
   [self setNeedsLayout];
-}
-- (UIView *)selectedBackgroundView {
-  return _selectedBackgroundView;
-}
-- (void)setSelectedBackgroundView:(UIView *)view {
-  [view retain];
-  [_selectedBackgroundView release];
-  _selectedBackgroundView = view;
 }
 - (UIColor *)separatorColor {
   return _separatorColor;

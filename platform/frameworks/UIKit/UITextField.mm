@@ -19,6 +19,7 @@
 @synthesize inputView = _inputView;
 @synthesize inputAccessoryView = _inputAccessoryView;
 @synthesize editing = _editing;
+@synthesize textColor = _textColor;
 - (instancetype)initWithFrame:(CGRect)frame {
   if ((self = [super initWithFrame:frame])) {
     _text = [@"" copy];
@@ -65,14 +66,6 @@
   [font retain];
   [_font release];
   _font = font;
-}
-- (UIColor *)textColor {
-  return _textColor;
-}
-- (void)setTextColor:(UIColor *)color {
-  [color retain];
-  [_textColor release];
-  _textColor = color;
 }
 
 #pragma mark - Editing

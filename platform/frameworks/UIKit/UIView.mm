@@ -108,16 +108,20 @@ const CGFloat UIViewNoIntrinsicMetric = -1;
     v.frame = f;
   }
 }
+// A new size lays the subviews out again.
+- (void)_simBoundsSizeChangedFrom:(CGSize)old {
+  if (!CGSizeEqualToSize(old, _layer.bounds.size)) {
+    [self _simResizeSubviewsWithOldSize:old];
+    [self setNeedsLayout];
+  }
+}
 - (CGRect)frame {
   return _layer.frame;
 }
 - (void)setFrame:(CGRect)frame {
   CGSize old = _layer.bounds.size;
   _layer.frame = frame;
-  if (!CGSizeEqualToSize(old, _layer.bounds.size)) {
-    [self _simResizeSubviewsWithOldSize:old];
-    [self setNeedsLayout];
-  }
+  [self _simBoundsSizeChangedFrom:old];
 }
 - (CGRect)bounds {
   return _layer.bounds;
@@ -125,10 +129,7 @@ const CGFloat UIViewNoIntrinsicMetric = -1;
 - (void)setBounds:(CGRect)bounds {
   CGSize old = _layer.bounds.size;
   _layer.bounds = CGRectStandardize(bounds);
-  if (!CGSizeEqualToSize(old, _layer.bounds.size)) {
-    [self _simResizeSubviewsWithOldSize:old];
-    [self setNeedsLayout];
-  }
+  [self _simBoundsSizeChangedFrom:old];
 }
 - (CGPoint)center {
   return _layer.position;
@@ -265,7 +266,9 @@ const CGFloat UIViewNoIntrinsicMetric = -1;
 - (void)addSubview:(UIView *)view {
   [self insertSubview:view atIndex:(view->_superview == self ? (NSInteger)_subviews.count - 1 : (NSInteger)_subviews.count)];
 }
-- (void)insertSubview:(UIView *)view belowSubview:(UIView *)sibling {
+// Just below or above `sibling`, counting places as if `view` had already left this view;
+// on top when `sibling` is not a subview.
+- (void)_simInsertSubview:(UIView *)view nextTo:(UIView *)sibling above:(BOOL)above {
   NSUInteger i = [_subviews indexOfObjectIdenticalTo:sibling];
   if (i == NSNotFound) {
     [self addSubview:view];
@@ -273,21 +276,17 @@ const CGFloat UIViewNoIntrinsicMetric = -1;
   }
   NSUInteger mine = [_subviews indexOfObjectIdenticalTo:view];
   if (mine != NSNotFound && mine < i) --i;
-  [self insertSubview:view atIndex:i];
+  [self insertSubview:view atIndex:above ? i + 1 : i];
+}
+- (void)insertSubview:(UIView *)view belowSubview:(UIView *)sibling {
+  [self _simInsertSubview:view nextTo:sibling above:NO];
 }
 - (void)insertSubview:(UIView *)view aboveSubview:(UIView *)sibling {
-  NSUInteger i = [_subviews indexOfObjectIdenticalTo:sibling];
-  if (i == NSNotFound) {
-    [self addSubview:view];
-    return;
-  }
-  NSUInteger mine = [_subviews indexOfObjectIdenticalTo:view];
-  if (mine != NSNotFound && mine < i) --i;
-  [self insertSubview:view atIndex:i + 1];
+  [self _simInsertSubview:view nextTo:sibling above:YES];
 }
-- (void)exchangeSubviewAtIndex:(NSInteger)a withSubviewAtIndex:(NSInteger)b {
-  if (a < 0 || b < 0 || (NSUInteger)a >= _subviews.count || (NSUInteger)b >= _subviews.count || a == b) return;
-  [_subviews exchangeObjectAtIndex:a withObjectAtIndex:b];
+// Sublayers that belong to no subview stay at the back; the subviews' layers follow in
+// subview order.
+- (void)_simOrderLayersAsSubviews {
   NSMutableArray *layers = [NSMutableArray array];
   for (CALayer *l in _layer.sublayers) {
     BOOL isView = NO;
@@ -297,6 +296,11 @@ const CGFloat UIViewNoIntrinsicMetric = -1;
   }
   for (UIView *v in _subviews) [layers addObject:v.layer];
   _layer.sublayers = layers;
+}
+- (void)exchangeSubviewAtIndex:(NSInteger)a withSubviewAtIndex:(NSInteger)b {
+  if (a < 0 || b < 0 || (NSUInteger)a >= _subviews.count || (NSUInteger)b >= _subviews.count || a == b) return;
+  [_subviews exchangeObjectAtIndex:a withObjectAtIndex:b];
+  [self _simOrderLayersAsSubviews];
 }
 // Moving a subview within its superview only reorders it: it does not leave its window,
 // and a view already in place is left alone (a cell that keeps its separator in front
@@ -307,15 +311,7 @@ const CGFloat UIViewNoIntrinsicMetric = -1;
   [[view retain] autorelease];
   [_subviews removeObjectAtIndex:from];
   [_subviews insertObject:view atIndex:index];
-  NSMutableArray *layers = [NSMutableArray array];
-  for (CALayer *l in _layer.sublayers) {
-    BOOL isView = NO;
-    for (UIView *v in _subviews)
-      if (v.layer == l) isView = YES;
-    if (!isView) [layers addObject:l];
-  }
-  for (UIView *v in _subviews) [layers addObject:v.layer];
-  _layer.sublayers = layers;
+  [self _simOrderLayersAsSubviews];
 }
 - (void)bringSubviewToFront:(UIView *)view {
   if (_subviews.count > 0) [self _simMoveSubview:view toIndex:_subviews.count - 1];
