@@ -1,4 +1,4 @@
-#import <QuartzCore/QuartzCore.h>
+#import "QuartzCoreInternal.h"
 
 @implementation CAKeyframeAnimation
 @synthesize values = _values;
@@ -9,9 +9,7 @@
   return _path;
 }
 - (void)setPath:(CGPathRef)path {
-  if (path == _path) return;
-  CGPathRelease(_path);
-  _path = CGPathCreateCopy(path);
+  setPath(&_path, path);
 }
 - (id)copyWithZone:(NSZone *)zone {
   CAKeyframeAnimation *a = [super copyWithZone:zone];

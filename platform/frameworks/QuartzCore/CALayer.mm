@@ -176,9 +176,7 @@ NSString *const kCAGravityCenter = @"center";
   return _shadowPath;
 }
 - (void)setShadowPath:(CGPathRef)path {
-  if (path == _shadowPath) return;
-  CGPathRelease(_shadowPath);
-  _shadowPath = CGPathCreateCopy(path);
+  setPath(&_shadowPath, path);
 }
 
 #pragma mark - Sublayers

@@ -49,9 +49,7 @@ NSString *const kCALineCapSquare = @"square";
   return _path;
 }
 - (void)setPath:(CGPathRef)path {
-  if (path == _path) return;
-  CGPathRelease(_path);
-  _path = CGPathCreateCopy(path);
+  setPath(&_path, path);
 }
 - (CGColorRef)fillColor {
   return _fillColor;

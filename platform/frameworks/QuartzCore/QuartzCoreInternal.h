@@ -11,6 +11,13 @@ static inline void setColor(CGColorRef *slot, CGColorRef color) {
   *slot = color;
 }
 
+/* Keeps a copy of `path` in `slot` and releases the old one. */
+static inline void setPath(CGPathRef *slot, CGPathRef path) {
+  if (path == *slot) return;
+  CGPathRelease(*slot);
+  *slot = CGPathCreateCopy(path);
+}
+
 @interface CALayer (SimInternal)
 /* Draws what the layer itself shows (background, contents) into `ctx`, before its
    delegate's drawing and its sublayers; a subclass adds what it shows on top. */
