@@ -1,6 +1,7 @@
 #import <Preferences/PreferencesSimulation.h>
 
 @implementation PSControlTableCell
+@synthesize control = _control;
 - (instancetype)initWithStyle:(UITableViewCellStyle)style reuseIdentifier:(NSString *)reuseIdentifier
                     specifier:(PSSpecifier *)specifier {
   if ((self = [super initWithStyle:style reuseIdentifier:reuseIdentifier specifier:specifier])) {
@@ -16,9 +17,6 @@
   [_control removeTarget:self action:NULL forControlEvents:UIControlEventAllEvents];
   [_control release];
   [super dealloc];
-}
-- (UIControl *)control {
-  return _control;
 }
 - (void)setControl:(UIControl *)control {
   if (control == _control) return;

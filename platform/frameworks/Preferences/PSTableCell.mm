@@ -11,6 +11,7 @@ static NSArray *cellTypeNames(void) {
 }
 
 @implementation PSTableCell
+@synthesize specifier = _specifier;
 @synthesize type = _type;
 @synthesize cellTarget = _cellTarget;
 @synthesize cellAction = _cellAction;
@@ -55,14 +56,6 @@ static NSArray *cellTypeNames(void) {
 
 #pragma mark - State
 
-- (PSSpecifier *)specifier {
-  return _specifier;
-}
-- (void)setSpecifier:(PSSpecifier *)specifier {
-  [specifier retain];
-  [_specifier release];
-  _specifier = specifier;
-}
 - (BOOL)isChecked {
   return _checked;
 }

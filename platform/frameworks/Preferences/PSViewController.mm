@@ -3,6 +3,7 @@
 #include <notify.h>
 
 @implementation PSViewController
+@synthesize parentController = _parentController;
 - (instancetype)initForContentSize:(CGSize)contentSize {
   return [self init];
 }
@@ -18,12 +19,6 @@
   [_specifier release];
   _specifier = specifier;
   if (!self.title && specifier.name) self.title = specifier.name;
-}
-- (UIViewController *)parentController {
-  return _parentController;
-}
-- (void)setParentController:(UIViewController *)parent {
-  _parentController = parent;
 }
 - (id)rootController {
   return _rootController ? _rootController : self.navigationController;
