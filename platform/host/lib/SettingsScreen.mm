@@ -21,17 +21,6 @@ enum : long {
 
 static const NSUInteger kScreenWidth = 78;
 
-@implementation SettingsScreenItem
-@synthesize specifier = _specifier;
-@synthesize controller = _controller;
-@synthesize footerLink = _footerLink;
-
-- (void)dealloc {
-  [_specifier release];
-  [super dealloc];
-}
-@end
-
 #pragma mark - Text helpers
 
 NSArray *SettingsScreenWrap(NSString *text, NSUInteger width, NSString *indent) {
