@@ -20,6 +20,8 @@ const CFStringRef kCFPreferencesCurrentHost = (CFStringRef) @"kCFPreferencesCurr
 const CFStringRef kCFPreferencesAnyUser = (CFStringRef) @"kCFPreferencesAnyUser";
 const CFStringRef kCFPreferencesCurrentUser = (CFStringRef) @"kCFPreferencesCurrentUser";
 
+#pragma mark - Domains: the cache and the files
+
 // The cached state of one domain in this process.
 @interface SimPreferenceDomain : NSObject {
     NSMutableDictionary *_values;
@@ -182,6 +184,8 @@ static id propertyListCopy(id value)
     }
 }
 
+#pragma mark - CFPreferences
+
 CFPropertyListRef CFPreferencesCopyAppValue(CFStringRef key, CFStringRef applicationID)
 {
     NSString *domain = SimPreferencesDomainName(applicationID);
@@ -287,6 +291,8 @@ CFArrayRef CFPreferencesCopyKeyList(CFStringRef applicationID, CFStringRef userN
     }
     return (CFArrayRef)keys;
 }
+
+#pragma mark - The store for NSUserDefaults
 
 void SimPreferencesReplaceDomain(NSString *domain, NSDictionary *values)
 {
