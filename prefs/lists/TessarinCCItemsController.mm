@@ -65,7 +65,7 @@ NSArray *CCSettingsArray() {
     for (const lists::CCTableRow &item : lists::kClassicRows) {
       UIImage *glyph = imageIn(item.image, springBoard);
       if (glyph == nil) glyph = imageIn(item.image, controlCenterUI);
-      PSSpecifier *row = switchRow(nsString(item.title), self, @selector(setCCItemProtectEnabled:specifier:),
+      PSSpecifier *row = switchRow(localizedText(item.title), self, @selector(setCCItemProtectEnabled:specifier:),
                                        @selector(getCCItemProtectEnabledForSpecifier:));
       [row setProperty:nsString(item.identifier) forKey:@"id"];
       if (glyph != nil) {
@@ -87,7 +87,7 @@ NSArray *CCSettingsArray() {
        settingsIcons ? lists::kConnectivitySettingsIconRows : lists::kConnectivityGlyphRows) {
     UIImage *image = imageIn(item.image, bundleAt(item.bundle));
     if (!settingsIcons) image = [image imageWithRenderingMode:UIImageRenderingModeAlwaysTemplate];
-    PSSpecifier *row = [self newSpecifierWithName:nsString(item.title)
+    PSSpecifier *row = [self newSpecifierWithName:localizedText(item.title)
                                             andID:nsString(item.identifier)
                                          andImage:image];
     [rows addObject:row];
@@ -103,7 +103,7 @@ NSArray *CCSettingsArray() {
     NSBundle *module = [NSBundle bundleWithPath:devicePath([NSString stringWithFormat:@"%@/%@", directory, entry])];
     NSDictionary *info = [module infoDictionary];
     std::optional<std::string> title = lists::moduleTitle(name, utf8String([info objectForKey:@"CFBundleDisplayName"]),
-                                                          utf8String([info objectForKey:@"CFBundleName"]));
+                                                          utf8String([info objectForKey:@"CFBundleName"]), localizedCoreText);
     PSSpecifier *row = [self newSpecifierWithName:title ? nsString(*title) : nil
                                             andID:[module bundleIdentifier]
                                          andImage:imageIn(lists::moduleImageName(name), module)];
@@ -164,7 +164,7 @@ NSArray *CCSettingsArray() {
   for (NSString *identifier in CCSettingsArray()) {
     const char *utf8 = [identifier UTF8String];
     if (utf8 == NULL) continue;
-    PSSpecifier *row = switchRow(nsString(lists::ccSettingsTitle(utf8)), self,
+    PSSpecifier *row = switchRow(nsString(lists::ccSettingsTitle(utf8, localizedCoreText)), self,
                                      @selector(setCCSettingsItemProtectEnabled:specifier:),
                                      @selector(getCCSettingsItemProtectEnabledForSpecifier:));
     [row setProperty:identifier forKey:@"id"];

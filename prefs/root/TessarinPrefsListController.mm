@@ -153,9 +153,9 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
     cachedLibraryVersion = (uint32_t)version.value_or(0);
   }
   const bool supported = tessarin::isSupportedSystem(stdString(systemVersionString()));
-  if (std::optional<std::string_view> footer = root::singleGroupFooter(cachedLibraryVersion, supported)) {
+  if (std::optional<tessarin::LocalText> footer = root::singleGroupFooter(cachedLibraryVersion, supported)) {
     PSSpecifier *group = [PSSpecifier groupSpecifierWithName:nil];
-    [group setProperty:nsString(*footer) forKey:@"footerText"];
+    [group setProperty:localizedText(*footer) forKey:@"footerText"];
     _specifiers = [[NSArray alloc] initWithObjects:group, nil];
     return _specifiers;
   }
@@ -172,6 +172,7 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
     NSString *identifier = [specifier identifier];
     if (identifier != nil && bundle != nil)
       [specifier setName:[bundle localizedStringForKey:identifier value:[specifier name] table:nil]];
+    localizeSubtitle(specifier, nsString(root::kRowsPlistName));
     loadedIds.push_back(stdString(identifier));
   }
 
@@ -209,7 +210,7 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
         setIdentifier(row, root::kTrustedWarningGroupId);
         break;
       case root::PlannedRowKind::Warning:
-        row = [PSSpecifier preferenceSpecifierNamed:nsString(plan.warning->title)
+        row = [PSSpecifier preferenceSpecifierNamed:localizedText(plan.warning->title)
                                              target:self
                                                 set:NULL
                                                 get:NULL
@@ -227,7 +228,7 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
       case root::PlannedRowKind::DeviceAuth: {
         const root::DeviceAuthRow &auth = *plan.deviceAuth;
         Class detail = auth.detailClass.empty() ? Nil : NSClassFromString(nsString(auth.detailClass));
-        row = [PSSpecifier preferenceSpecifierNamed:nsString(auth.name)
+        row = [PSSpecifier preferenceSpecifierNamed:localizedText(auth.name)
                                              target:self
                                                 set:NULL
                                                 get:NULL
@@ -238,7 +239,7 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
         break;
       }
       case root::PlannedRowKind::Credits:
-        row = [PSSpecifier preferenceSpecifierNamed:nsString(root::kCreditsText)
+        row = [PSSpecifier preferenceSpecifierNamed:localizedText(root::kCreditsText)
                                              target:self
                                                 set:NULL
                                                 get:NULL
@@ -249,13 +250,13 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
         [row setProperty:@(root::kCreditsAlignment) forKey:@"alignment"];
         break;
       case root::PlannedRowKind::MoreAppsGroup:
-        row = footerGroup(nsString(root::kMoreAppsFooter));
+        row = footerGroup(localizedText(root::kMoreAppsFooter));
         [row setTarget:self];
         [row setButtonAction:NSSelectorFromString(nsString(root::kMoreAppsAction))];
         [row setProperty:nsString(root::kMoreAppsFooterCellClass) forKey:@"footerCellClass"];
         [row setProperty:@(root::kMoreAppsHeight) forKey:@"height"];
         // The footer view shows this text.
-        [row setProperty:nsString(root::kMoreAppsFooter) forKey:nsString(tessarin::root::label_view::kTextProperty)];
+        [row setProperty:localizedText(root::kMoreAppsFooter) forKey:nsString(tessarin::root::label_view::kTextProperty)];
         break;
     }
     if (row == nil) continue;
@@ -284,10 +285,6 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
   NSDictionary *appsReply = askSpringBoard(tessarin::message::kApplications);
   [self setInstalledApps:[appsReply objectForKey:@"apps"]];
 
-  NSString *noPasscodeSet = localizedString(nsString(root::kNoPasscodeSetKey), nsString(root::kNoPasscodeSetDefault));
-  NSString *no = localizedString(nsString(root::kNoKey), nsString(root::kNoDefault));
-  const std::string noPasscodeSetText = stdString(noPasscodeSet);
-  const std::string noText = stdString(no);
   root::FirstRunFacts facts;
   facts.idsnReplied = idsnReply != nil;
   facts.idsnValue = integerEntry(idsnReply, @"idsn").value_or(0);
@@ -295,8 +292,6 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
   facts.productPasscodeStored = productPasscodeStored();
   facts.biometricSensor = iPhone64Bit();
   facts.faceID = hasPearl();
-  facts.noPasscodeSetText = noPasscodeSetText;
-  facts.noText = noText;
   if (std::optional<root::Alert> prompt = firstRunPrompt(facts)) [self showAlert:*prompt from:self];
 
   const CGFloat width = [[self view] frame].size.width;
@@ -373,10 +368,10 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
     }
     UIAlertActionStyle style =
         button.style == root::ActionStyle::Cancel ? UIAlertActionStyleCancel : UIAlertActionStyleDefault;
-    [actions addObject:[UIAlertAction actionWithTitle:nsString(button.title) style:style handler:handler]];
+    [actions addObject:[UIAlertAction actionWithTitle:localizedText(button.title) style:style handler:handler]];
   }
   showAlertWithTitleAndMessageAndAlertActionsFromViewControllerWithStyle(
-      nsString(alert.title), nsString(alert.message), actions, presenter, UIAlertControllerStyleAlert);
+      localizedText(alert.title), localizedText(alert.message), actions, presenter, UIAlertControllerStyleAlert);
 }
 
 - (void)performEffect:(root::Effect)effect {
