@@ -35,7 +35,10 @@ std::string rowItem(const std::optional<std::string> &identifier, std::string_vi
 bool listsToggle(std::string_view switchIdentifier) { return switchIdentifier != kSwitchIdentifier; }
 
 std::string faceIDText(std::string_view row, RowText property, std::string_view text, TextLookup lookup) {
-    if (row == kCallerTopRow && property == RowText::Footer) return replaceAll(text, kTouchIDName, kFaceIDName);
+    if (row == kCallerTopRow && property == RowText::Footer) {
+        const std::string touchID = lookup(kTouchIDName);
+        return touchID.empty() ? std::string(text) : replaceAll(text, touchID, lookup(kFaceIDName));
+    }
     // The resource text reads "lifting you finger"; the search keeps its missing "r".
     if (row == kCallerFingerUpRow && property == RowText::Footer) {
         const std::string phrase = lookup(kLiftFingerPhrase);

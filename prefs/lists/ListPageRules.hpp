@@ -38,9 +38,9 @@ inline constexpr LocalText kHideCallerFaceIDTitle{"CALLERID_HIDE_CALLER_FACE_ID"
 // (the English keeps the footer's missing "r").
 inline constexpr LocalText kLiftFingerPhrase{"CALLERID_LIFT_FINGER_PHRASE", "lifting you finger"};
 inline constexpr LocalText kLookAwayPhrase{"CALLERID_LOOK_AWAY_PHRASE", "looking away"};
-// Names, the same in every language.
-inline constexpr std::string_view kTouchIDName = "Touch ID";
-inline constexpr std::string_view kFaceIDName = "Face ID";
+// The system's names, as the user's language writes them (most keep the English).
+inline constexpr LocalText kTouchIDName{"TOUCH_ID", "Touch ID"};
+inline constexpr LocalText kFaceIDName{"FACE_ID", "Face ID"};
 enum class RowText { Footer, Label, Name };
 // `text` is in the language `lookup` gives (English without one).
 std::string faceIDText(std::string_view row, RowText property, std::string_view text,
