@@ -16,7 +16,9 @@ std::string versionText(std::uint32_t libraryVersion) {
 
 Rect header::headerFrame(double viewWidth) { return {0, 0, viewWidth, kHeaderHeight}; }
 
-Rect header::versionLabelFrame(double viewWidth) { return {0, 0, viewWidth - kLabelWidthInset, kLabelHeight}; }
+Rect header::versionLabelFrame(double viewWidth, bool rightToLeft) {
+  return {rightToLeft ? kLabelWidthInset : 0, 0, viewWidth - kLabelWidthInset, kLabelHeight};
+}
 
 namespace {
 

@@ -30,12 +30,16 @@ inline constexpr double kHeaderHeight = 22;
 inline constexpr double kLabelHeight = 17;
 inline constexpr double kLabelWidthInset = 6;
 inline constexpr double kFontSize = 12;
+// The label stands at the header's trailing edge: on the right, and on the left in a
+// right-to-left language (mirrored with its inset).
 inline constexpr int kAlignment = kTextAlignmentRight;
+inline constexpr int kRightToLeftAlignment = kTextAlignmentLeft;
+inline constexpr int alignment(bool rightToLeft) { return rightToLeft ? kRightToLeftAlignment : kAlignment; }
 inline constexpr Rgba kText = kLightGrey;
 inline constexpr bool kClipsToBounds = false;
 // Laid out again with the page view's width on each viewDidLayoutSubviews.
 Rect headerFrame(double viewWidth);
-Rect versionLabelFrame(double viewWidth);
+Rect versionLabelFrame(double viewWidth, bool rightToLeft = false);
 }  // namespace header
 
 // ---------------------------------------------------------------------------

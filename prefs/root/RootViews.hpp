@@ -16,6 +16,7 @@ struct Rect {
 };
 
 // Text alignment values of the platform's label (NSTextAlignment on iOS).
+inline constexpr int kTextAlignmentLeft = 0;
 inline constexpr int kTextAlignmentCenter = 1;
 inline constexpr int kTextAlignmentRight = 2;
 

@@ -6,6 +6,7 @@
 #import "core/BundleLookup.h"
 #import "core/Endpoints.h"
 #import "core/Hardware.h"
+#import "core/LayoutDirection.h"
 #import "core/Paths.h"
 #import "core/PreferenceStore.h"
 #import "core/VersionFlags.h"
@@ -296,14 +297,14 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
 
   const CGFloat width = [[self view] frame].size.width;
   const root::Rect headerFrame = root::header::headerFrame(width);
-  const root::Rect labelFrame = root::header::versionLabelFrame(width);
+  const root::Rect labelFrame = root::header::versionLabelFrame(width, isRightToLeft([self view]));
   UIView *headerView =
       [[UIView alloc] initWithFrame:CGRectMake(headerFrame.x, headerFrame.y, headerFrame.width, headerFrame.height)];
   [headerView setClipsToBounds:root::header::kClipsToBounds];
   UILabel *label =
       [[UILabel alloc] initWithFrame:CGRectMake(labelFrame.x, labelFrame.y, labelFrame.width, labelFrame.height)];
   [label setFont:[UIFont systemFontOfSize:root::header::kFontSize]];
-  [label setTextAlignment:(NSTextAlignment)root::header::kAlignment];
+  [label setTextAlignment:(NSTextAlignment)root::header::alignment(isRightToLeft([self view]))];
   [label setTextColor:[UIColor lightGrayColor]];
   const std::string version = root::versionText(cachedLibraryVersion);
   if (!version.empty()) [label setText:nsString(version)];
@@ -317,7 +318,7 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
 
 - (void)viewDidLayoutSubviews {
   [super viewDidLayoutSubviews];
-  const root::Rect frame = root::header::versionLabelFrame([[self view] frame].size.width);
+  const root::Rect frame = root::header::versionLabelFrame([[self view] frame].size.width, isRightToLeft([self view]));
   [_versionLabel setFrame:CGRectMake(frame.x, frame.y, frame.width, frame.height)];
 }
 

@@ -110,3 +110,14 @@ TEST(RootBehaviour, AlertViewButtons) {
   };
   for (const Case &c : cases) EXPECT_EQ(alertViewButtonEffect(c.sensor, c.index), c.effect) << c.sensor << c.index;
 }
+
+// The version label stands at the header's trailing edge, mirrored with its inset right to left.
+TEST(RootBehaviour, VersionLabelAtTheTrailingEdge) {
+  const Rect ltr = header::versionLabelFrame(400), rtl = header::versionLabelFrame(400, true);
+  EXPECT_EQ(ltr.x, 0);
+  EXPECT_EQ(ltr.width, 394);
+  EXPECT_EQ(rtl.x, 6);
+  EXPECT_EQ(rtl.width, 394);
+  EXPECT_EQ(header::alignment(false), kTextAlignmentRight);
+  EXPECT_EQ(header::alignment(true), kTextAlignmentLeft);
+}
