@@ -4,7 +4,8 @@ set -euo pipefail
 
 packages=(clang cmake make libgnustep-base-dev gnustep-make libobjc-12-dev libblocksruntime-dev
           googletest libgtest-dev libbenchmark-dev libclang-rt-14-dev locales
-          clang-19 libc++-19-dev)  # clang-19 and its libc++: tools/device-check.sh
+          clang-19 libc++-19-dev  # clang-19 and its libc++: tools/device-check.sh
+          python3 libplist-utils)  # plistlib and plistutil read what the plist writers write (PlistInterop)
 missing=()
 for package in "${packages[@]}"; do
   dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q "install ok installed" || missing+=("$package")

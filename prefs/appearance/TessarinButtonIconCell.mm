@@ -1,5 +1,7 @@
 #import "appearance/TessarinButtonIconCell.h"
-#import "appearance/ButtonGeometry.h"
+#import "core/Geometry.h"
+#import "core/Strings.h"
+#include "appearance/ButtonRules.hpp"
 #import "appearance/IconColor.h"
 #import "core/PreferenceStore.h"
 
@@ -19,7 +21,7 @@ static NSString *const kGlyphIconSelected = @"TessarinGlyphIconSelected";
                     specifier:(PSSpecifier *)specifier {
   // Always the value style, whatever the row asks for.
   if ((self = [super initWithStyle:UITableViewCellStyleValue1 reuseIdentifier:reuseIdentifier specifier:specifier])) {
-    _container = [[UIView alloc] initWithFrame:cgRectOf(appearance::containerFrame([[self contentView] bounds].size.width))];
+    _container = [[UIView alloc] initWithFrame:cgRect(appearance::containerFrame([[self contentView] bounds].size.width))];
     _tapRecognizer = [[UITapGestureRecognizer alloc] initWithTarget:self action:@selector(tappedView:)];
     [_container addGestureRecognizer:_tapRecognizer];
     [[self contentView] addSubview:_container];
@@ -53,12 +55,12 @@ static NSString *const kGlyphIconSelected = @"TessarinGlyphIconSelected";
   UIView **thirds[3] = {&_leftView, &_middleView, &_rightView};
   NSMutableArray *made = [NSMutableArray array];
   for (int column = 0; column < 3; column++) {
-    *thirds[column] = [[UIView alloc] initWithFrame:cgRectOf(appearance::button::thirdFrame(column))];
+    *thirds[column] = [[UIView alloc] initWithFrame:cgRect(appearance::button::thirdFrame(column))];
     [_container addSubview:*thirds[column]];
-    UIImage *ring = buttonPageImage(nsStringOf(appearance::button::kCircleImages[column]));
+    UIImage *ring = buttonPageImage(nsString(appearance::button::kCircleImages[column]));
     TessarinButtonView *button =
         [[TessarinButtonView alloc] initWithButtonImage:ring isBlackButton:appearance::button::kIsBlackButton[column]];
-    [button setFrame:cgRectOf(appearance::button::kInThird)];
+    [button setFrame:cgRect(appearance::button::kInThird)];
     [*thirds[column] addSubview:button];
     [made addObject:button];
     [button release];
@@ -70,12 +72,12 @@ static NSString *const kGlyphIconSelected = @"TessarinGlyphIconSelected";
 
 - (void)layoutSubviews {
   [super layoutSubviews];
-  [_container setFrame:cgRectOf(appearance::containerFrame([[self contentView] bounds].size.width))];
+  [_container setFrame:cgRect(appearance::containerFrame([[self contentView] bounds].size.width))];
   int64_t iconColor = storedIconColor();
   if (_whiteButton == nil) [self makeButtons];
-  [_leftView setFrame:cgRectOf(appearance::button::thirdFrame(0))];
-  [_middleView setFrame:cgRectOf(appearance::button::thirdFrame(1))];
-  [_rightView setFrame:cgRectOf(appearance::button::thirdFrame(2))];
+  [_leftView setFrame:cgRect(appearance::button::thirdFrame(0))];
+  [_middleView setFrame:cgRect(appearance::button::thirdFrame(1))];
+  [_rightView setFrame:cgRect(appearance::button::thirdFrame(2))];
 
   std::optional<int> chosen = appearance::chosenButton(iconColor);
   NSArray *buttons = [self buttons];

@@ -1,5 +1,7 @@
 #import "appearance/TessarinButtonView.h"
-#import "appearance/ButtonGeometry.h"
+#import "core/Geometry.h"
+#import "core/Strings.h"
+#include "appearance/ButtonRules.hpp"
 #import "appearance/IconColor.h"
 
 namespace button = tessarin::appearance::button;
@@ -7,7 +9,7 @@ namespace button = tessarin::appearance::button;
 namespace {
 
 CABasicAnimation *endlessAnimation(const button::Animation &spec) {
-  CABasicAnimation *animation = [CABasicAnimation animationWithKeyPath:nsStringOf(spec.keyPath)];
+  CABasicAnimation *animation = [CABasicAnimation animationWithKeyPath:nsString(spec.keyPath)];
   [animation setFromValue:[NSNumber numberWithFloat:spec.from]];
   [animation setToValue:[NSNumber numberWithFloat:spec.to]];
   [animation setDuration:spec.duration];
@@ -27,28 +29,28 @@ CABasicAnimation *endlessAnimation(const button::Animation &spec) {
 @synthesize isAnimating = _isAnimating;
 
 - (instancetype)initWithButtonImage:(UIImage *)image isBlackButton:(BOOL)isBlackButton {
-  if ((self = [super initWithFrame:cgRectOf(button::kView)])) {
+  if ((self = [super initWithFrame:cgRect(button::kView)])) {
     UIImageView *circle = [[UIImageView alloc] initWithImage:image];
-    [circle setFrame:cgRectOf(button::kCircle)];
+    [circle setFrame:cgRect(button::kCircle)];
     [self setCircle:circle];
     [circle release];
     [self addSubview:_circle];
 
-    UIImageView *thumb = [[UIImageView alloc] initWithImage:buttonPageImage(nsStringOf(button::thumbImage(isBlackButton)))];
-    [thumb setFrame:cgRectOf(button::kThumb)];
+    UIImageView *thumb = [[UIImageView alloc] initWithImage:buttonPageImage(nsString(button::thumbImage(isBlackButton)))];
+    [thumb setFrame:cgRect(button::kThumb)];
     [thumb setClipsToBounds:YES];
     [self setThumb:thumb];
     [thumb release];
 
     // The strip starts just below the print's visible area.
-    UIView *ghost = [[UIView alloc] initWithFrame:cgRectOf(button::kGhost)];
+    UIView *ghost = [[UIView alloc] initWithFrame:cgRect(button::kGhost)];
     [ghost setClipsToBounds:YES];
     [ghost setAutoresizesSubviews:NO];
     [self setGhostView:ghost];
     [ghost release];
 
-    UIImageView *thumbRed = [[UIImageView alloc] initWithImage:buttonPageImage(nsStringOf(button::kThumbRedImage))];
-    [thumbRed setFrame:cgRectOf(button::kThumbRed)];
+    UIImageView *thumbRed = [[UIImageView alloc] initWithImage:buttonPageImage(nsString(button::kThumbRedImage))];
+    [thumbRed setFrame:cgRect(button::kThumbRed)];
     [self setThumbRed:thumbRed];
     [thumbRed release];
 
@@ -71,7 +73,7 @@ CABasicAnimation *endlessAnimation(const button::Animation &spec) {
 
 - (void)animateCircle {
   if ([[[_circle layer] animationKeys] count] != 0) return;
-  NSString *ringKey = [nsStringOf(button::kRingKeyPrefix) stringByAppendingString:NSStringFromClass([self class])];
+  NSString *ringKey = [nsString(button::kRingKeyPrefix) stringByAppendingString:NSStringFromClass([self class])];
   [[_circle layer] addAnimation:endlessAnimation(button::kRingRotation) forKey:ringKey];
   CABasicAnimation *strip = endlessAnimation(button::kStripSweep);
   [[_ghostView layer] addAnimation:strip forKey:[strip keyPath]];
@@ -93,10 +95,10 @@ CABasicAnimation *endlessAnimation(const button::Animation &spec) {
     [[_circle layer] removeAllAnimations];
     [[_thumb layer] removeAllAnimations];
     [[_thumbRed layer] removeAllAnimations];
-    [_ghostView setFrame:cgRectOf(button::kGhost)];
-    [_circle setFrame:cgRectOf(button::kCircle)];
-    [_thumb setFrame:cgRectOf(button::kThumb)];
-    [_thumbRed setFrame:cgRectOf(button::kThumbRed)];
+    [_ghostView setFrame:cgRect(button::kGhost)];
+    [_circle setFrame:cgRect(button::kCircle)];
+    [_thumb setFrame:cgRect(button::kThumb)];
+    [_thumbRed setFrame:cgRect(button::kThumbRed)];
   }
   _isAnimating = NO;
 }

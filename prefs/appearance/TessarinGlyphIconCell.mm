@@ -1,5 +1,7 @@
 #import "appearance/TessarinGlyphIconCell.h"
-#import "appearance/ButtonGeometry.h"
+#import "core/Geometry.h"
+#import "core/Strings.h"
+#include "appearance/ButtonRules.hpp"
 #import "appearance/IconColor.h"
 #import "core/Paths.h"
 #import "core/PreferenceStore.h"
@@ -49,8 +51,8 @@ void applyLook(PKGlyphView *view, int index, BOOL animated) {
     return;
   }
   if (look.primaryHex.empty()) return;
-  UIColor *primary = colorFromHexString(nsStringOf(look.primaryHex));
-  UIColor *secondary = colorFromHexString(nsStringOf(look.secondaryHex));
+  UIColor *primary = colorFromHexString(nsString(look.primaryHex));
+  UIColor *secondary = colorFromHexString(nsString(look.secondaryHex));
   if ([view respondsToSelector:@selector(setPrimaryColor:)]) [view setPrimaryColor:primary];
   if ([view respondsToSelector:@selector(setSecondaryColor:)]) [view setSecondaryColor:secondary];
   setColor(view, @selector(_setPrimaryColor:animated:), primary, NO);
@@ -98,7 +100,7 @@ void runChain(PKGlyphView *view, int index, NSArray *states, NSUInteger step) {
   if ((self = [super initWithStyle:UITableViewCellStyleValue1 reuseIdentifier:reuseIdentifier specifier:specifier])) {
     sharedGlyphCell = self;
     CGFloat width = [[self contentView] bounds].size.width;
-    _container = [[UIView alloc] initWithFrame:cgRectOf(appearance::containerFrame(width))];
+    _container = [[UIView alloc] initWithFrame:cgRect(appearance::containerFrame(width))];
     _tapRecognizer = [[UITapGestureRecognizer alloc] initWithTarget:self action:@selector(tappedView:)];
     [_container addGestureRecognizer:_tapRecognizer];
     [[NSNotificationCenter defaultCenter] addObserver:self
@@ -115,13 +117,13 @@ void runChain(PKGlyphView *view, int index, NSArray *states, NSUInteger step) {
     UIView **thirds[3] = {&_leftView, &_middleView, &_rightView};
     PKGlyphView **glyphs[3] = {&_blackView, &_blueView, &_redView};
     for (int column = 0; column < 3; column++) {
-      *thirds[column] = [[UIView alloc] initWithFrame:cgRectOf(glyph::thirdFrame(column, third))];
+      *thirds[column] = [[UIView alloc] initWithFrame:cgRect(glyph::thirdFrame(column, third))];
       [_container addSubview:*thirds[column]];
       if (glyphClass == Nil) continue;
       PKGlyphView *view = [[glyphClass alloc] initWithStyle:glyph::look(column, systemVersion).style];
       *glyphs[column] = view;
       applyLook(view, column, YES);
-      [view setFrame:cgRectOf(glyph::frameInThird(third))];
+      [view setFrame:cgRect(glyph::frameInThird(third))];
       [*thirds[column] addSubview:view];
     }
     [self addSubview:_container];
@@ -162,7 +164,7 @@ void runChain(PKGlyphView *view, int index, NSArray *states, NSUInteger step) {
 
 - (void)layoutSubviews {
   [super layoutSubviews];
-  [_container setFrame:cgRectOf(appearance::containerFrame([[self contentView] bounds].size.width))];
+  [_container setFrame:cgRect(appearance::containerFrame([[self contentView] bounds].size.width))];
 }
 
 - (void)tappedView:(UITapGestureRecognizer *)recognizer {

@@ -8,7 +8,7 @@
 #include "core/MessageCode.hpp"
 #include "core/Names.hpp"
 #include "core/ReplyPoll.hpp"
-#include "core/plist/KeyedArchive.hpp"
+#include "core/Reply.hpp"
 
 namespace {
 
@@ -58,8 +58,7 @@ id sendMessageAndReceiveReply(id self, SEL _cmd, NSString *name, NSDictionary *u
       [&replyPath] { return tessarin::readReplyFile(replyPath); }, secondsNow, tessarin::kReplyBudgetSeconds);
   if (!data) return nil;
 
-  // Only property-list classes can come out of a reply; anything else reads as no reply.
-  std::optional<tessarin::plist::Value> reply = tessarin::plist::decodeKeyedArchive(data->data(), data->size());
+  std::optional<tessarin::plist::Value> reply = tessarin::decodeReply(*data);
   if (!reply) return nil;
   [[NSFileManager defaultManager] removeItemAtPath:@(replyPath.c_str()) error:NULL];
   return objectFromPlistValue(*reply);

@@ -26,8 +26,8 @@ enum class Absent {
     PageDecides,  // the owning page chooses
 };
 
-// Who writes the key and whether the write is announced with the change
-// notification.
+/// Who writes the key and whether the write is announced with the change
+/// notification.
 enum class Writer {
     CodeAnnounced,  // the page's code, then the change notification
     CodeSilent,     // the page's code, no notification (trusted networks)
@@ -39,14 +39,14 @@ struct PreferenceKey {
     std::string_view key;
     KeyType type;
     Absent absent;
-    bool absentBool;        // when type is Boolean and absent is Value
-    int64_t absentInteger;  // when type is Integer and absent is Value
+    bool absentBool;        ///< when type is Boolean and absent is Value
+    int64_t absentInteger;  ///< when type is Integer and absent is Value
     Writer writer;
-    std::string_view owner;  // the page that writes the key
-    std::string_view row;    // the id of the specifier-plist row that writes it, if one does
+    std::string_view owner;  ///< the page that writes the key
+    std::string_view row;    ///< the id of the specifier-plist row that writes it, if one does
 
-    // The key for the store's C interface; every key is a string literal, so
-    // its view ends at a NUL (checked below).
+    /// The key for the store's C interface; every key is a string literal, so
+    /// its view ends at a NUL (checked below).
     constexpr const char *name() const { return key.data(); }
 };
 
@@ -84,7 +84,7 @@ inline constexpr PreferenceKey kAlertTitle{
     "alertTitle", KeyType::String, Absent::DefaultTitle, false, 0, Writer::CodeAnnounced, "alert-title page", ""};
 inline constexpr PreferenceKey kWaitUntilFinished{"waitUntilFinished", KeyType::Boolean, Absent::PageDecides,
                                                   false, 0, Writer::PlistRow, "delay page", "WAIT_TILL_FINISH"};
-// Keys that only a plist row carries: the code knows these rows by id.
+/// Keys that only a plist row carries: the code knows these rows by id.
 inline constexpr PreferenceKey kKeepSession{
     "keepSession", KeyType::Boolean, Absent::Value, false, 0, Writer::PlistRow, "root page", "KEEP_SESSION"};
 inline constexpr PreferenceKey kUnlockWithTouchID{"unlockWithTouchID", KeyType::Boolean, Absent::Value, true, 0,
@@ -150,28 +150,28 @@ constexpr bool keysAreUnique() {
 static_assert(detail::keysEndAtNul(), "preference keys are passed on as C strings");
 static_assert(detail::keysAreUnique(), "a key has one entry");
 
-// Whether a write of the key is followed by the change notification: every
-// write is, except the trusted-network list's.
+/// Whether a write of the key is followed by the change notification: every
+/// write is, except the trusted-network list's.
 constexpr bool postsChangeSignal(const PreferenceKey &k) { return k.writer != Writer::CodeSilent; }
 
-// Removing the whole domain ("reset all") is announced once, as a write is.
+/// Removing the whole domain ("reset all") is announced once, as a write is.
 inline constexpr bool kResetAllPostsChangeSignal = true;
 
-// The table entry of a key; nullptr for keys the table does not name.
+/// The table entry of a key; nullptr for keys the table does not name.
 const PreferenceKey *findPreferenceKey(std::string_view key);
 
-// Readers of a stored value (nullptr when the key is absent). Booleans and
-// integers are both numbers in the domain, so a boolean reads any number
-// (non-zero is true) and an integer reads any number (reals truncated
-// toward zero when in range). Anything else is wrong-typed and gives the
-// absent value.
+/// Readers of a stored value (nullptr when the key is absent). Booleans and
+/// integers are both numbers in the domain, so a boolean reads any number
+/// (non-zero is true) and an integer reads any number (reals truncated
+/// toward zero when in range). Anything else is wrong-typed and gives the
+/// absent value.
 bool readBool(const plist::Value *v, bool absent);
 int64_t readInteger(const plist::Value *v, int64_t absent);
-// nullopt when absent or not a string; the empty string is a value.
+/// nullopt when absent or not a string; the empty string is a value.
 std::optional<std::string> readString(const plist::Value *v);
 
-// Table-driven forms: the absent value comes from the key's entry (false
-// and 0 for keys outside the table or whose page decides).
+/// Table-driven forms: the absent value comes from the key's entry (false
+/// and 0 for keys outside the table or whose page decides).
 bool readBoolForKey(std::string_view key, const plist::Value *v);
 int64_t readIntegerForKey(std::string_view key, const plist::Value *v);
 

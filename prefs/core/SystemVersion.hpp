@@ -18,11 +18,11 @@ struct SystemVersionFlags {
     bool iOS17 = false;
 };
 
-// All flags for a version string. iOS11 is always set (the Settings
-// process). The iOS 10.2 and iOS 10 lists stop at 13 on purpose.
+/// All flags for a version string. iOS11 is always set (the Settings
+/// process). The iOS 10.2 and iOS 10 lists stop at 13 on purpose.
 SystemVersionFlags systemVersionFlags(std::string_view versionString);
 
-// True when the string names iOS 12 to 17 ("Version 12." ... "Version 17.").
+/// True when the string names iOS 12 to 17 ("Version 12." ... "Version 17.").
 bool isSupportedSystem(std::string_view versionString);
 
 }  // namespace tessarin

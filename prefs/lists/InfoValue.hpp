@@ -11,7 +11,7 @@ namespace tessarin::lists {
 struct InfoValue {
     enum class Kind { Absent, String, Other };
     Kind kind = Kind::Absent;
-    std::string text;  // when a string
+    std::string text;  ///< when a string
 
     static InfoValue absent() { return {}; }
     static InfoValue string(std::string s) { return {Kind::String, std::move(s)}; }

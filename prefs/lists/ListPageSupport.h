@@ -7,6 +7,9 @@
 #import "core/Strings.h"
 #include "lists/InfoValue.hpp"
 
+// The bundle at a device path (nil when there is none).
+NSBundle *deviceBundle(std::string_view path);
+
 // The image of that name in `bundle`, through UIKit's two-argument lookup (the public
 // lookup with no trait collection should a system lack it).
 UIImage *imageInBundle(NSString *name, NSBundle *bundle);

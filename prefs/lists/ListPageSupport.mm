@@ -1,6 +1,9 @@
 #import "lists/ListPageSupport.h"
+#import "core/Paths.h"
 
 #include "core/Names.hpp"
+
+NSBundle *deviceBundle(std::string_view path) { return [NSBundle bundleWithPath:devicePath(nsString(path))]; }
 
 UIImage *imageInBundle(NSString *name, NSBundle *bundle) {
   if ([UIImage respondsToSelector:@selector(imageNamed:inBundle:)]) return [UIImage imageNamed:name inBundle:bundle];

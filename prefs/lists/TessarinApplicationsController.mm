@@ -2,7 +2,6 @@
 
 #import "core/BundleLookup.h"
 #import "core/Paths.h"
-#import "core/ProtectedListStore.h"
 #import "lists/ListPageSupport.h"
 #include "core/Names.hpp"
 #include "core/PreferenceKeys.hpp"
@@ -58,6 +57,8 @@ lists::AllowedApplications allowedApplications() {
 
 @implementation TessarinApplicationsController
 
+#pragma mark - Rows
+
 - (NSMutableArray *)specifiers {
   if (_specifiers != nil) return (NSMutableArray *)_specifiers;
 
@@ -100,24 +101,23 @@ lists::AllowedApplications allowedApplications() {
   return (NSMutableArray *)_specifiers;
 }
 
+#pragma mark - Switches
+
+- (const tessarin::PreferenceKey *)protectedList {
+  return &tessarin::key::kProtected;
+}
+
+// The row's identifier: the application's bundle identifier (its name for one that has none).
+- (id)protectedItemForSpecifier:(PSSpecifier *)specifier {
+  return [specifier identifier];
+}
+
 - (NSNumber *)getProtectEnabledForSpecifier:(PSSpecifier *)specifier {
-  return @(isProtectedItem([specifier identifier], &tessarin::key::kProtected));
+  return [self protectionOfSpecifier:specifier];
 }
 
 - (void)setProtectEnabled:(NSNumber *)value specifier:(PSSpecifier *)specifier {
-  switchProtectedItem([specifier identifier], [value boolValue], &tessarin::key::kProtected);
-}
-
-@end
-
-@implementation TessarinAppNotificationsController
-
-- (NSNumber *)getProtectEnabledForSpecifier:(PSSpecifier *)specifier {
-  return @(isProtectedItem([specifier identifier], &tessarin::key::kProtectedNotifications));
-}
-
-- (void)setProtectEnabled:(NSNumber *)value specifier:(PSSpecifier *)specifier {
-  switchProtectedItem([specifier identifier], [value boolValue], &tessarin::key::kProtectedNotifications);
+  [self setProtection:value ofSpecifier:specifier];
 }
 
 @end

@@ -1,9 +1,9 @@
-// The Control Center pages: the system's Control Center items (and add-on modules) and
-// the toggles of the CCSettings extension, storing the protected items' identifiers.
+// The Control Center page: the system's Control Center items (and add-on modules),
+// storing the protected items' identifiers.
 #pragma once
-#import "core/PlatformAPI.h"
+#import "lists/TessarinProtectedListController.h"
 
-@interface TessarinCCItemsController : PSListController
+@interface TessarinCCItemsController : TessarinProtectedListController
 // A switch row for an item, its icon rounded (owned by the caller).
 - (PSSpecifier *)newSpecifierWithName:(NSString *)name andID:(NSString *)identifier andImage:(UIImage *)image;
 // The image clipped to rounded corners (the generic application icon when none is given),
@@ -11,9 +11,4 @@
 - (UIImage *)roundedImage:(UIImage *)image;
 - (NSNumber *)getCCItemProtectEnabledForSpecifier:(PSSpecifier *)specifier;
 - (void)setCCItemProtectEnabled:(NSNumber *)value specifier:(PSSpecifier *)specifier;
-@end
-
-@interface TessarinCCSettingsItemsController : PSListController
-- (NSNumber *)getCCSettingsItemProtectEnabledForSpecifier:(PSSpecifier *)specifier;
-- (void)setCCSettingsItemProtectEnabled:(NSNumber *)value specifier:(PSSpecifier *)specifier;
 @end

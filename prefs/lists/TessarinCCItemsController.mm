@@ -2,10 +2,8 @@
 
 #import "core/BundleLookup.h"
 #import "core/Paths.h"
-#import "core/ProtectedListStore.h"
 #import "lists/ListPageSupport.h"
 #include "core/PreferenceKeys.hpp"
-#include "core/plist/BinaryPlist.hpp"
 #include "lists/ControlCenterItems.hpp"
 
 namespace {
@@ -16,31 +14,16 @@ namespace lists = tessarin::lists;
 // turns the glyph white on transparent.
 BOOL whiteTint = NO;
 
-NSBundle *bundleAt(const char *path) { return [NSBundle bundleWithPath:devicePath(@(path))]; }
-
-NSBundle *bundleAt(std::string_view path) { return [NSBundle bundleWithPath:devicePath(nsString(path))]; }
-
 UIImage *imageIn(std::string_view name, NSBundle *bundle) {
   if (bundle == nil) return nil;
   return imageInBundle(nsString(name), bundle);
 }
 
-// The CCSettings toggle identifiers in the extension's order.
-NSArray *CCSettingsArray() {
-  NSData *data = [NSData dataWithContentsOfFile:devicePath(@(lists::kCCSettingsOrderFile))];
-  std::optional<tessarin::plist::Value> order;
-  if (data != nil) order = tessarin::plist::readPlist(static_cast<const uint8_t *>([data bytes]), [data length]);
-  NSMutableArray *identifiers = [NSMutableArray array];
-  for (const std::string &identifier : lists::ccSettingsOrder(order ? &*order : nullptr)) {
-    NSString *text = nsString(identifier);
-    if (text != nil) [identifiers addObject:text];
-  }
-  return identifiers;
-}
-
 }  // namespace
 
 @implementation TessarinCCItemsController
+
+#pragma mark - Rows
 
 - (NSArray *)specifiers {
   if (_specifiers != nil) return _specifiers;
@@ -60,12 +43,12 @@ NSArray *CCSettingsArray() {
       [self addModulesIn:@(lists::kAddOnModulesDirectory) to:rows];
     }
   } else {
-    NSBundle *springBoard = bundleAt(lists::kSpringBoardApp);
-    NSBundle *controlCenterUI = bundleAt(lists::kControlCenterUIFramework);
+    NSBundle *springBoard = deviceBundle(lists::kSpringBoardApp);
+    NSBundle *controlCenterUI = deviceBundle(lists::kControlCenterUIFramework);
     for (const lists::CCTableRow &item : lists::kClassicRows) {
       UIImage *glyph = imageIn(item.image, springBoard);
       if (glyph == nil) glyph = imageIn(item.image, controlCenterUI);
-      PSSpecifier *row = switchRow(nsString(item.title), self, @selector(setCCItemProtectEnabled:specifier:),
+      PSSpecifier *row = switchRow(localizedText(item.title), self, @selector(setCCItemProtectEnabled:specifier:),
                                        @selector(getCCItemProtectEnabledForSpecifier:));
       [row setProperty:nsString(item.identifier) forKey:@"id"];
       if (glyph != nil) {
@@ -81,13 +64,13 @@ NSArray *CCSettingsArray() {
 
 - (void)addConnectivityRowsTo:(NSMutableArray *)rows {
   const bool settingsIcons =
-      imageIn(lists::kConnectivityProbeImage, bundleAt(lists::kPreferencesFramework)) != nil;
+      imageIn(lists::kConnectivityProbeImage, deviceBundle(lists::kPreferencesFramework)) != nil;
   whiteTint = settingsIcons ? NO : YES;
   for (const lists::CCTableRow &item :
        settingsIcons ? lists::kConnectivitySettingsIconRows : lists::kConnectivityGlyphRows) {
-    UIImage *image = imageIn(item.image, bundleAt(item.bundle));
+    UIImage *image = imageIn(item.image, deviceBundle(item.bundle));
     if (!settingsIcons) image = [image imageWithRenderingMode:UIImageRenderingModeAlwaysTemplate];
-    PSSpecifier *row = [self newSpecifierWithName:nsString(item.title)
+    PSSpecifier *row = [self newSpecifierWithName:localizedText(item.title)
                                             andID:nsString(item.identifier)
                                          andImage:image];
     [rows addObject:row];
@@ -103,7 +86,7 @@ NSArray *CCSettingsArray() {
     NSBundle *module = [NSBundle bundleWithPath:devicePath([NSString stringWithFormat:@"%@/%@", directory, entry])];
     NSDictionary *info = [module infoDictionary];
     std::optional<std::string> title = lists::moduleTitle(name, utf8String([info objectForKey:@"CFBundleDisplayName"]),
-                                                          utf8String([info objectForKey:@"CFBundleName"]));
+                                                          utf8String([info objectForKey:@"CFBundleName"]), localizedCoreText);
     PSSpecifier *row = [self newSpecifierWithName:title ? nsString(*title) : nil
                                             andID:[module bundleIdentifier]
                                          andImage:imageIn(lists::moduleImageName(name), module)];
@@ -140,51 +123,18 @@ NSArray *CCSettingsArray() {
   return rounded;
 }
 
+#pragma mark - Switches
+
+- (const tessarin::PreferenceKey *)protectedList {
+  return &tessarin::key::kProtectedCCItems;
+}
+
 - (NSNumber *)getCCItemProtectEnabledForSpecifier:(PSSpecifier *)specifier {
-  return @(isProtectedItem([specifier propertyForKey:@"id"], &tessarin::key::kProtectedCCItems));
+  return [self protectionOfSpecifier:specifier];
 }
 
 - (void)setCCItemProtectEnabled:(NSNumber *)value specifier:(PSSpecifier *)specifier {
-  switchProtectedItem([specifier propertyForKey:@"id"], [value boolValue], &tessarin::key::kProtectedCCItems);
-}
-
-@end
-
-@implementation TessarinCCSettingsItemsController
-
-- (NSArray *)specifiers {
-  if (_specifiers != nil) return _specifiers;
-
-  NSMutableArray *rows = [NSMutableArray array];
-  [rows addObject:footerGroup(localizedString(
-                      @"CCSETTINGS_FOOTER", @"Choose the CCSettings items that you want to protect from the list below"))];
-  [rows addObject:[PSSpecifier emptyGroupSpecifier]];
-
-  NSBundle *settings = bundleAt(lists::kCCSettingsBundle);
-  for (NSString *identifier in CCSettingsArray()) {
-    const char *utf8 = [identifier UTF8String];
-    if (utf8 == NULL) continue;
-    PSSpecifier *row = switchRow(nsString(lists::ccSettingsTitle(utf8)), self,
-                                     @selector(setCCSettingsItemProtectEnabled:specifier:),
-                                     @selector(getCCSettingsItemProtectEnabledForSpecifier:));
-    [row setProperty:identifier forKey:@"id"];
-    NSString *icon = nsString(lists::ccSettingsIconName(utf8));
-    if (icon != nil && [settings pathForResource:[NSString stringWithFormat:@"%@@2x", icon] ofType:@"png"] != nil) {
-      UIImage *image = imageInBundle(icon, settings);
-      if (image != nil) [row setProperty:image forKey:@"iconImage"];
-    }
-    [rows addObject:row];
-  }
-  _specifiers = [rows copy];
-  return _specifiers;
-}
-
-- (NSNumber *)getCCSettingsItemProtectEnabledForSpecifier:(PSSpecifier *)specifier {
-  return @(isProtectedItem([specifier propertyForKey:@"id"], &tessarin::key::kProtectedCCSettingsItems));
-}
-
-- (void)setCCSettingsItemProtectEnabled:(NSNumber *)value specifier:(PSSpecifier *)specifier {
-  switchProtectedItem([specifier propertyForKey:@"id"], [value boolValue], &tessarin::key::kProtectedCCSettingsItems);
+  [self setProtection:value ofSpecifier:specifier];
 }
 
 @end

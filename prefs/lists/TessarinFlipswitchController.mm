@@ -2,7 +2,6 @@
 #import "core/Strings.h"
 #import "core/Paths.h"
 #import "core/Specifiers.h"
-#import "core/ProtectedListStore.h"
 #include <string>
 #include "lists/ListPageRules.hpp"
 
@@ -28,14 +27,11 @@ Class switchPanelClass(void) {
   return panel;
 }
 
-NSString *switchItem(PSSpecifier *row) {
-  id identifier = [row propertyForKey:@"id"];
-  return [identifier isKindOfClass:[NSString class]] ? identifier : nil;
-}
-
 }  // namespace
 
 @implementation TessarinFlipswitchController
+
+#pragma mark - Rows
 
 - (NSArray *)specifiers {
   if (_specifiers != nil) return _specifiers;
@@ -66,13 +62,18 @@ NSString *switchItem(PSSpecifier *row) {
   return _specifiers;
 }
 
+#pragma mark - Switches
+
+- (const tessarin::PreferenceKey *)protectedList {
+  return &tessarin::key::kProtectedSwitches;
+}
+
 - (void)setFlipswitchProtectEnabled:(id)value specifier:(PSSpecifier *)specifier {
-  BOOL on = [value respondsToSelector:@selector(boolValue)] && [value boolValue];
-  switchProtectedItem(switchItem(specifier), on, &tessarin::key::kProtectedSwitches);
+  [self setProtection:value ofSpecifier:specifier];
 }
 
 - (id)getFlipswitchProtectEnabledForSpecifier:(PSSpecifier *)specifier {
-  return @(isProtectedItem(switchItem(specifier), &tessarin::key::kProtectedSwitches));
+  return [self protectionOfSpecifier:specifier];
 }
 
 @end

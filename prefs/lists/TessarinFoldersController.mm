@@ -1,8 +1,8 @@
 #import "lists/TessarinFoldersController.h"
 
+#import "core/Geometry.h"
 #import "core/BundleLookup.h"
 #import "core/Paths.h"
-#import "core/ProtectedListStore.h"
 #import "lists/ListPageSupport.h"
 #include "core/Names.hpp"
 #include "core/PreferenceKeys.hpp"
@@ -77,7 +77,7 @@ UIImage *newsstandImage() {
 
 - (UIImage *)createIconImageWithIdentifiers:(NSArray *)identifiers {
   const lists::PictureRect frame = lists::kFolderPictureView;
-  UIView *view = [[UIView alloc] initWithFrame:CGRectMake(frame.x, frame.y, frame.width, frame.height)];
+  UIView *view = [[UIView alloc] initWithFrame:cgRect(frame)];
   const double *colour = lists::kFolderPictureColour;
   [view setBackgroundColor:[UIColor colorWithRed:colour[0] green:colour[1] blue:colour[2] alpha:colour[3]]];
   [[view layer] setCornerRadius:lists::kFolderPictureCornerRadius];
@@ -109,7 +109,7 @@ UIImage *newsstandImage() {
       break;
     }
     const lists::PictureRect cell = lists::folderIconFrame(index++);
-    UIImageView *iconView = [[UIImageView alloc] initWithFrame:CGRectMake(cell.x, cell.y, cell.width, cell.height)];
+    UIImageView *iconView = [[UIImageView alloc] initWithFrame:cgRect(cell)];
     [iconView setImage:icon];
     [view addSubview:iconView];
     [iconView release];
@@ -121,20 +121,32 @@ UIImage *newsstandImage() {
   return picture;
 }
 
-- (NSNumber *)getFolderProtectEnabledForSpecifier:(PSSpecifier *)specifier {
-  return @(isProtectedItem([specifier name], &tessarin::key::kProtectedFolders));
+#pragma mark - Switches
+
+- (const tessarin::PreferenceKey *)protectedList {
+  return &tessarin::key::kProtectedFolders;
 }
 
-- (void)setFolderProtectEnabled:(NSNumber *)value specifier:(PSSpecifier *)specifier {
-  const BOOL on = [value boolValue];
-  NSString *name = [specifier name];
-  // Folders are known by name only: every folder of this name shows the new state.
+// Folders are known by name only.
+- (id)protectedItemForSpecifier:(PSSpecifier *)specifier {
+  return [specifier name];
+}
+
+// Every folder of this name shows the new state.
+- (void)specifier:(PSSpecifier *)specifier didSwitchProtection:(BOOL)on {
   for (PSSpecifier *other in _specifiers) {
-    if (other == specifier || ![[other name] isEqual:name]) continue;
+    if (other == specifier || ![[other name] isEqual:[specifier name]]) continue;
     id control = [other propertyForKey:@"control"];
     if ([control isKindOfClass:[UISwitch class]]) [(UISwitch *)control setOn:on animated:NO];
   }
-  switchProtectedItem(name, on, &tessarin::key::kProtectedFolders);
+}
+
+- (NSNumber *)getFolderProtectEnabledForSpecifier:(PSSpecifier *)specifier {
+  return [self protectionOfSpecifier:specifier];
+}
+
+- (void)setFolderProtectEnabled:(NSNumber *)value specifier:(PSSpecifier *)specifier {
+  [self setProtection:value ofSpecifier:specifier];
 }
 
 @end

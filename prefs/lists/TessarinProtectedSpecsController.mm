@@ -2,8 +2,7 @@
 #import "core/Specifiers.h"
 #import "core/Strings.h"
 #import "core/BundleLookup.h"
-#import "core/ProtectedListStore.h"
-#import "root/TessarinRootViews.h"
+#import "root/TessarinSwitchCell.h"
 #include <optional>
 #include <string>
 #include "lists/ListPageRules.hpp"
@@ -35,6 +34,8 @@ NSArray *settingsListRows(void) {
 }  // namespace
 
 @implementation TessarinProtectedSpecsController
+
+#pragma mark - Rows
 
 - (NSArray *)specifiers {
   if (_specifiers != nil) return _specifiers;
@@ -70,17 +71,29 @@ NSArray *settingsListRows(void) {
   return _specifiers;
 }
 
-- (void)setPreferenceProtectEnabled:(id)value specifier:(PSSpecifier *)specifier {
-  BOOL on = [value respondsToSelector:@selector(boolValue)] && [value boolValue];
-  switchProtectedItem(paneItem(specifier), on, &tessarin::key::kProtectedSettings);
-  // The icon follows the switch at once, without a rebuild of the page.
+#pragma mark - Switches
+
+- (const tessarin::PreferenceKey *)protectedList {
+  return &tessarin::key::kProtectedSettings;
+}
+
+- (id)protectedItemForSpecifier:(PSSpecifier *)specifier {
+  return paneItem(specifier);
+}
+
+// The icon follows the switch at once, without a rebuild of the page.
+- (void)specifier:(PSSpecifier *)specifier didSwitchProtection:(BOOL)on {
   id cell = [specifier propertyForKey:@"cellObject"];
   if ([cell respondsToSelector:@selector(iconImageView)])
     [[cell iconImageView] setAlpha:tessarin::root::switch_cell::iconAlpha(on)];
 }
 
+- (void)setPreferenceProtectEnabled:(id)value specifier:(PSSpecifier *)specifier {
+  [self setProtection:value ofSpecifier:specifier];
+}
+
 - (id)getPreferenceProtectEnabledForSpecifier:(PSSpecifier *)specifier {
-  return @(isProtectedItem(paneItem(specifier), &tessarin::key::kProtectedSettings));
+  return [self protectionOfSpecifier:specifier];
 }
 
 @end

@@ -11,9 +11,9 @@
 
 namespace tessarin::passcode {
 
-// `stored` is the value under "passcode" as read when the page loads; pass
-// nullopt when there is none or when it is not a string (such a value never
-// equals an entry).
+/// `stored` is the value under "passcode" as read when the page loads; pass
+/// nullopt when there is none or when it is not a string (such a value never
+/// equals an entry).
 class RemovePasscodeFlow {
  public:
   enum class State { Old, Closed };
@@ -46,14 +46,14 @@ class ChangePasscodeFlow {
 
   State state() const;
   bool closed() const { return closed_; }
-  // The change page keeps the add page's title on purpose.
+  /// The change page keeps the add page's title on purpose.
   static constexpr Text title() { return text::kAddTitle; }
   static constexpr Text initialPrompt() { return text::kEnterOld; }
 
  private:
   std::optional<std::string> stored_;
-  std::optional<std::string> pass1_;  // the verified old passcode: step one done
-  std::optional<std::string> pass2_;  // first entry of the new passcode
+  std::optional<std::string> pass1_;  ///< the verified old passcode: step one done
+  std::optional<std::string> pass2_;  ///< first entry of the new passcode
   bool closed_ = false;
 };
 

@@ -1,7 +1,9 @@
 // Helpers shared by the passcode pages: their texts and views, the error sound
 // and the refresh of the visible settings pages after the passcode changed.
 #pragma once
-#import "core/PlatformAPI.h"
+#import "core/Geometry.h"
+#include <optional>
+#include <string>
 #include "passcode/PasscodeFlow.hpp"
 
 // The text in its table (the bundle's own strings or the Accessibility
@@ -19,12 +21,16 @@ UINavigationController *settingsRootController(void);
 // rows after `delay` seconds.
 void scheduleSettingsPagesReload(NSTimeInterval delay);
 
-// The flows' geometry and colours as UIKit values.
-CGRect passcodeRect(const tessarin::passcode::Rect &rect);
+// The flows' colours as UIKit values (their frames go through core/Geometry.h).
 UIColor *passcodeColour(const tessarin::passcode::Rgb &colour);
 
 // A centred label of the passcode pages' font, as the prompt and the warning line are.
 UILabel *passcodePageLabel(const tessarin::passcode::Rect &frame, NSString *text);
+
+// The stored product passcode when it is a string (anything else never matches), and
+// its text for the flows.
+NSString *storedProductPasscode(void);
+std::optional<std::string> passcodeText(NSString *passcode);
 
 // The entry as text the flows take; empty for nil.
 std::string_view passcodeEntryView(NSString *entry);

@@ -1,4 +1,5 @@
 #import "passcode/PasscodePages.h"
+#import "core/PreferenceStore.h"
 #import "core/BundleLookup.h"
 #import "core/Paths.h"
 #import "core/VersionFlags.h"
@@ -52,16 +53,12 @@ void scheduleSettingsPagesReload(NSTimeInterval delay) {
   }
 }
 
-CGRect passcodeRect(const tessarin::passcode::Rect &rect) {
-  return CGRectMake(rect.x, rect.y, rect.width, rect.height);
-}
-
 UIColor *passcodeColour(const tessarin::passcode::Rgb &colour) {
   return [UIColor colorWithRed:colour.red / 255.0 green:colour.green / 255.0 blue:colour.blue / 255.0 alpha:1.0];
 }
 
 UILabel *passcodePageLabel(const tessarin::passcode::Rect &frame, NSString *text) {
-  UILabel *label = [[[UILabel alloc] initWithFrame:passcodeRect(frame)] autorelease];
+  UILabel *label = [[[UILabel alloc] initWithFrame:cgRect(frame)] autorelease];
   [label setTextAlignment:NSTextAlignmentCenter];
   [label setText:text];
   [label setFont:[UIFont systemFontOfSize:tessarin::passcode::kLabelFontSize]];
@@ -71,4 +68,15 @@ UILabel *passcodePageLabel(const tessarin::passcode::Rect &frame, NSString *text
 std::string_view passcodeEntryView(NSString *entry) {
   const char *bytes = [entry UTF8String];
   return bytes != nullptr ? std::string_view(bytes) : std::string_view();
+}
+
+NSString *storedProductPasscode(void) {
+  id value = storedPreference(&tessarin::key::kPasscode);
+  return [value isKindOfClass:[NSString class]] ? value : nil;
+}
+
+std::optional<std::string> passcodeText(NSString *passcode) {
+  const char *bytes = [passcode UTF8String];
+  if (bytes == nullptr) return std::nullopt;
+  return std::string(bytes);
 }

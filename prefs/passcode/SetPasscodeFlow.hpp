@@ -15,9 +15,9 @@ class SetPasscodeFlow {
 
   SetPasscodeFlow() = default;
 
-  // One complete entry from the field, exactly as the field reports it.
+  /// One complete entry from the field, exactly as the field reports it.
   Step enter(std::string_view entry);
-  // The Cancel button: nothing is written; later entries do nothing.
+  /// The Cancel button: nothing is written; later entries do nothing.
   Step cancel();
 
   State state() const;

@@ -81,13 +81,13 @@ void setCentreX(UIView *view, CGFloat x) {
   delete _setFlow;
   _setFlow = new passcode::SetPasscodeFlow();
 
-  UIView *root = [[[UIView alloc] initWithFrame:passcodeRect(passcode::rootViewFrame(width))] autorelease];
+  UIView *root = [[[UIView alloc] initWithFrame:cgRect(passcode::rootViewFrame(width))] autorelease];
   [root setAutoresizingMask:passcode::kFlexibleSizeMask];
   [root setBackgroundColor:passcodeColour([self usesDarkAppearance] ? passcode::kDarkBackground : passcode::kLightBackground)];
   if ([self respondsToSelector:@selector(setView:)]) [self setView:root];
 
   PSPasscodeField *field = [[[PSPasscodeField alloc] initWithNumberOfEntryFields:passcode::kDigitEntryFields] autorelease];
-  [field setFrame:passcodeRect(passcode::digitFieldFrame(width))];
+  [field setFrame:cgRect(passcode::digitFieldFrame(width))];
   [field setSecurePasscodeEntry:YES];
   [field setDelegate:self];
   self.passcodeField = field;

@@ -1,10 +1,9 @@
-// Removing and changing the product passcode: both ask for the stored one first.
+// Removing the product passcode, once the stored one is entered.
 #pragma once
 #import "passcode/TessarinPasscodeController.h"
 
 namespace tessarin::passcode {
 class RemovePasscodeFlow;
-class ChangePasscodeFlow;
 }
 
 @interface TessarinRemovePasscodeController : TessarinPasscodeController {
@@ -12,12 +11,5 @@ class ChangePasscodeFlow;
   tessarin::passcode::RemovePasscodeFlow *_removeFlow;
 }
 // The stored passcode as read when the page was loaded.
-@property (nonatomic, retain) NSString *oldPass;
-@end
-
-@interface TessarinChangePasscodeController : TessarinPasscodeController {
-  NSString *_oldPass;
-  tessarin::passcode::ChangePasscodeFlow *_changeFlow;
-}
 @property (nonatomic, retain) NSString *oldPass;
 @end

@@ -1,12 +1,10 @@
 // Proving knowledge of the device passcode before the system's biometric
-// settings page is opened: a digit page for four- and six-digit passcodes and
-// a text page for the others.
+// settings page is opened, on a digit page for four- and six-digit passcodes
+// (the text page for the others is its subclass).
 #pragma once
 #import "passcode/TessarinPasscodeController.h"
 
-namespace tessarin::passcode {
-class DevicePasscodeFlow;
-}
+#include "passcode/DevicePasscodeFlow.hpp"
 
 @interface TessarinUserPasscodeController : TessarinPasscodeController {
   NSString *_oldPass;  // declared, not used by these pages
@@ -19,8 +17,11 @@ class DevicePasscodeFlow;
 
 // Pushes the unlocked system settings page onto the Settings navigation.
 - (void)pushMesa:(UIViewController *)controller;
-@end
 
-@interface TessarinUserComplexPasscodeController : TessarinUserPasscodeController <UITextFieldDelegate>
-- (BOOL)textFieldShouldReturn:(UITextField *)textField;
+#pragma mark - For the text page
+
+// Which page the device passcode is entered on: digits here, text on the subclass.
+- (tessarin::passcode::DevicePage)devicePage;
+// A new check of the device passcode, its error count back at zero.
+- (void)startFlow;
 @end

@@ -5,21 +5,19 @@
 #include <array>
 #include <string_view>
 
+#include "core/Geometry.hpp"
+
 namespace tessarin::root {
 
-struct Rgba {
-  double red, green, blue, alpha;
-};
+using tessarin::Rect;
+using tessarin::Rgba;
 
-struct Rect {
-  double x, y, width, height;
-};
-
-// Text alignment values of the platform's label (NSTextAlignment on iOS).
+/// Text alignment values of the platform's label (NSTextAlignment on iOS).
+inline constexpr int kTextAlignmentLeft = 0;
 inline constexpr int kTextAlignmentCenter = 1;
 inline constexpr int kTextAlignmentRight = 2;
 
-// The platform's light grey (a white level of 2/3).
+/// The platform's light grey (a white level of 2/3).
 inline constexpr Rgba kLightGrey = {2.0 / 3.0, 2.0 / 3.0, 2.0 / 3.0, 1};
 inline constexpr Rgba kClear = {0, 0, 0, 0};
 inline constexpr Rgba kWhite = {1, 1, 1, 1};
@@ -31,8 +29,8 @@ inline constexpr Rgba kText = kWhite;
 inline constexpr double kFontSize = 15;
 inline constexpr int kNumberOfLines = 0;
 inline constexpr int kAlignment = kTextAlignmentCenter;
-// The label starts 2 points below the cell's top; 65 points high during the
-// grace period (row 70), else 40 (row 45).
+/// The label starts 2 points below the cell's top; 65 points high during the
+/// grace period (row 70), else 40 (row 45).
 Rect labelFrame(double cellWidth, bool gracePeriod);
 }  // namespace warning_cell
 
@@ -59,9 +57,9 @@ namespace label_view {
 inline constexpr Rgba kBackground = {1, 1, 1, 0.01};
 inline constexpr Rgba kText = {0, 0.478431, 1.0, 1};
 inline constexpr int kAlignment = kTextAlignmentCenter;
-inline constexpr double kPreferredHeight = 47;  // whatever the width
+inline constexpr double kPreferredHeight = 47;  ///< whatever the width
 inline constexpr std::string_view kTextProperty = "ACUIFooterText";
-inline constexpr double kActionDelay = 0;  // performed on the next run-loop turn
+inline constexpr double kActionDelay = 0;  ///< performed on the next run-loop turn
 Rect labelFrame(double width);
 }  // namespace label_view
 

@@ -1,4 +1,5 @@
 #import "root/TessarinPrefsListController.h"
+#import "core/Geometry.h"
 #import "core/Strings.h"
 #import "core/Specifiers.h"
 #import "core/SpringBoardRequests.h"
@@ -6,10 +7,12 @@
 #import "core/BundleLookup.h"
 #import "core/Endpoints.h"
 #import "core/Hardware.h"
+#import "core/LayoutDirection.h"
 #import "core/Paths.h"
 #import "core/PreferenceStore.h"
 #import "core/VersionFlags.h"
-#import "root/TessarinRootViews.h"
+#import "root/TessarinCreditsCell.h"
+#import "root/TessarinTrustedWiFiWarningCell.h"
 #import "wifi/TessarinWiFiManager.h"
 #include "core/Names.hpp"
 #include "root/RootBehaviour.hpp"
@@ -107,6 +110,12 @@ BOOL appsContain(id apps, NSString *bundleIdentifier) {
   return NO;
 }
 
+std::vector<std::string> identifiersOf(NSArray *rows) {
+  std::vector<std::string> identifiers;
+  for (PSSpecifier *row in rows) identifiers.push_back(stdString([row identifier]));
+  return identifiers;
+}
+
 void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
   NSString *text = nsString(identifier);
   [specifier setIdentifier:text];
@@ -146,118 +155,20 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
 - (NSArray *)specifiers {
   sharedRootPage = self;
   if (_specifiers != nil) return _specifiers;
-
-  // SpringBoard's half must answer, on a supported system, before anything else shows.
-  if (cachedLibraryVersion == 0) {
-    std::optional<long long> version = integerEntry(askSpringBoard(tessarin::message::kLibraryVersion), @"dlbv");
-    cachedLibraryVersion = (uint32_t)version.value_or(0);
-  }
-  const bool supported = tessarin::isSupportedSystem(stdString(systemVersionString()));
-  if (std::optional<std::string_view> footer = root::singleGroupFooter(cachedLibraryVersion, supported)) {
-    PSSpecifier *group = [PSSpecifier groupSpecifierWithName:nil];
-    [group setProperty:nsString(*footer) forKey:@"footerText"];
-    _specifiers = [[NSArray alloc] initWithObjects:group, nil];
+  if (PSSpecifier *notice = [self noticeGroup]) {
+    _specifiers = [[NSArray alloc] initWithObjects:notice, nil];
     return _specifiers;
   }
 
-  root::RootPageFacts facts;
-  facts.biometricsSet = root::biometricsSet(integerEntry(askSpringBoard(tessarin::message::kBiometricsEnrolled), @"idsn"));
-  facts.productPasscodeSet = productPasscodeStored();
-
-  NSArray *loaded = [self loadSpecifiersFromPlistName:nsString(root::kRowsPlistName) target:self];
-  if (![loaded isKindOfClass:[NSArray class]]) loaded = [NSArray array];
-  NSBundle *bundle = tessarinBundle();
-  std::vector<std::string> loadedIds;
-  for (PSSpecifier *specifier in loaded) {
-    NSString *identifier = [specifier identifier];
-    if (identifier != nil && bundle != nil)
-      [specifier setName:[bundle localizedStringForKey:identifier value:[specifier name] table:nil]];
-    loadedIds.push_back(stdString(identifier));
-  }
-
-  // Asked again on every build: a SpringBoard that went away since the first answer is told.
-  NSDictionary *again = askSpringBoard(tessarin::message::kLibraryVersion);
-  if ([again objectForKey:@"dlbv"] == nil) {
-    springBoardEmergency = YES;
-    [self showAlert:root::noSpringBoardAlert() from:self];
-  }
-
-  facts.gracePeriod = gracePeriodIsActive();
-  facts.trustedNetwork = [[TessarinWiFiManager sharedInstance] isOnTrustedNetwork];
-  const BOOL sensor = iPhone64Bit();
-  facts.device = root::deviceFacts(sensor, hasPearl(), isPad(), systemVersion);
-  if (sensor) facts.devicePasscode = devicePasscodeCharacteristics();
-
-  const root::RootRowsPlan plan = planRootRows(loadedIds, facts, DeviceFileProbe(), classExists);
+  root::RootPageFacts facts = [self settingsFacts];
+  NSArray *loaded = [self loadedRows];
+  [self warnWhenSpringBoardHasGone];
+  [self addDeviceFacts:&facts];
+  const root::RootRowsPlan plan = planRootRows(identifiersOf(loaded), facts, DeviceFileProbe(), classExists);
 
   NSMutableArray *rows = [NSMutableArray array];
   for (const root::PlannedRow &planned : plan.rows) {
-    PSSpecifier *row = nil;
-    switch (planned.kind) {
-      case root::PlannedRowKind::Loaded:
-        row = [loaded objectAtIndex:planned.loadedIndex];
-        if (planned.action == root::RowAction::KeepWithoutFooter) [row removePropertyForKey:@"footerText"];
-        if (planned.action == root::RowAction::KeepAsResetTarget) {
-          TessarinPrefsListController *page = self;
-          [row setProperty:[NSValue value:&page withObjCType:@encode(id)] forKey:@"target"];
-          [row setTarget:self];
-          if ([row buttonAction] == NULL) [row setButtonAction:@selector(resetAllTessarinSettings:)];
-        }
-        break;
-      case root::PlannedRowKind::WarningGroup:
-        row = [PSSpecifier emptyGroupSpecifier];
-        setIdentifier(row, root::kTrustedWarningGroupId);
-        break;
-      case root::PlannedRowKind::Warning:
-        row = [PSSpecifier preferenceSpecifierNamed:nsString(plan.warning->title)
-                                             target:self
-                                                set:NULL
-                                                get:NULL
-                                             detail:Nil
-                                               cell:(PSCellType)root::kStaticTextCellType
-                                               edit:Nil];
-        [row setProperty:[TessarinTrustedWiFiWarningCell class] forKey:@"cellClass"];
-        [row setProperty:@(plan.warning->height) forKey:@"height"];
-        setIdentifier(row, root::kTrustedWarningId);
-        break;
-      case root::PlannedRowKind::DeviceAuthGroup:
-      case root::PlannedRowKind::CreditsGroup:
-        row = [PSSpecifier emptyGroupSpecifier];
-        break;
-      case root::PlannedRowKind::DeviceAuth: {
-        const root::DeviceAuthRow &auth = *plan.deviceAuth;
-        Class detail = auth.detailClass.empty() ? Nil : NSClassFromString(nsString(auth.detailClass));
-        row = [PSSpecifier preferenceSpecifierNamed:nsString(auth.name)
-                                             target:self
-                                                set:NULL
-                                                get:NULL
-                                             detail:detail
-                                               cell:(PSCellType)root::kDeviceAuthCellType
-                                               edit:Nil];
-        if (!auth.loadAction.empty()) [row setControllerLoadAction:NSSelectorFromString(nsString(auth.loadAction))];
-        break;
-      }
-      case root::PlannedRowKind::Credits:
-        row = [PSSpecifier preferenceSpecifierNamed:nsString(root::kCreditsText)
-                                             target:self
-                                                set:NULL
-                                                get:NULL
-                                             detail:Nil
-                                               cell:(PSCellType)root::kCreditsCellType
-                                               edit:Nil];
-        [row setProperty:[TessarinCreditsCell class] forKey:@"cellClass"];
-        [row setProperty:@(root::kCreditsAlignment) forKey:@"alignment"];
-        break;
-      case root::PlannedRowKind::MoreAppsGroup:
-        row = footerGroup(nsString(root::kMoreAppsFooter));
-        [row setTarget:self];
-        [row setButtonAction:NSSelectorFromString(nsString(root::kMoreAppsAction))];
-        [row setProperty:nsString(root::kMoreAppsFooterCellClass) forKey:@"footerCellClass"];
-        [row setProperty:@(root::kMoreAppsHeight) forKey:@"height"];
-        // The footer view shows this text.
-        [row setProperty:nsString(root::kMoreAppsFooter) forKey:nsString(tessarin::root::label_view::kTextProperty)];
-        break;
-    }
+    PSSpecifier *row = [self rowFor:planned of:plan loaded:loaded];
     if (row == nil) continue;
     if (planned.disabled) [row setProperty:@(NO) forKey:@"enabled"];
     [rows addObject:row];
@@ -268,6 +179,151 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
 
   _specifiers = [rows copy];
   return _specifiers;
+}
+
+// SpringBoard's half must answer, on a supported system, before anything else shows: the
+// one group that says why not, or nil.
+- (PSSpecifier *)noticeGroup {
+  if (cachedLibraryVersion == 0) {
+    std::optional<long long> version = integerEntry(askSpringBoard(tessarin::message::kLibraryVersion), @"dlbv");
+    cachedLibraryVersion = (uint32_t)version.value_or(0);
+  }
+  const bool supported = tessarin::isSupportedSystem(stdString(systemVersionString()));
+  std::optional<tessarin::LocalText> footer = root::singleGroupFooter(cachedLibraryVersion, supported);
+  if (!footer) return nil;
+  PSSpecifier *group = [PSSpecifier groupSpecifierWithName:nil];
+  [group setProperty:localizedText(*footer) forKey:@"footerText"];
+  return group;
+}
+
+// What the product's settings say: biometrics set up (SpringBoard's answer) and a passcode stored.
+- (root::RootPageFacts)settingsFacts {
+  root::RootPageFacts facts;
+  facts.biometricsSet = root::biometricsSet(integerEntry(askSpringBoard(tessarin::message::kBiometricsEnrolled), @"idsn"));
+  facts.productPasscodeSet = productPasscodeStored();
+  return facts;
+}
+
+// The rows of the page's plist, each named from the bundle's table by its identifier.
+- (NSArray *)loadedRows {
+  NSArray *loaded = [self loadSpecifiersFromPlistName:nsString(root::kRowsPlistName) target:self];
+  if (![loaded isKindOfClass:[NSArray class]]) return [NSArray array];
+  NSBundle *bundle = tessarinBundle();
+  for (PSSpecifier *specifier in loaded) {
+    NSString *identifier = [specifier identifier];
+    if (identifier != nil && bundle != nil)
+      [specifier setName:[bundle localizedStringForKey:identifier value:[specifier name] table:nil]];
+    localizeSubtitle(specifier, nsString(root::kRowsPlistName));
+  }
+  return loaded;
+}
+
+// Asked again on every build: a SpringBoard that went away since the first answer is told.
+- (void)warnWhenSpringBoardHasGone {
+  NSDictionary *again = askSpringBoard(tessarin::message::kLibraryVersion);
+  if ([again objectForKey:@"dlbv"] != nil) return;
+  springBoardEmergency = YES;
+  [self showAlert:root::noSpringBoardAlert() from:self];
+}
+
+// What the device is and where it is: the status rows and the device-authentication row
+// follow these.
+- (void)addDeviceFacts:(root::RootPageFacts *)facts {
+  facts->gracePeriod = gracePeriodIsActive();
+  facts->trustedNetwork = [[TessarinWiFiManager sharedInstance] isOnTrustedNetwork];
+  const BOOL sensor = iPhone64Bit();
+  facts->device = root::deviceFacts(sensor, hasPearl(), isPad(), systemVersion);
+  if (sensor) facts->devicePasscode = devicePasscodeCharacteristics();
+}
+
+// The one mapping from the plan's kinds of row to rows.
+- (PSSpecifier *)rowFor:(const root::PlannedRow &)planned of:(const root::RootRowsPlan &)plan loaded:(NSArray *)loaded {
+  switch (planned.kind) {
+    case root::PlannedRowKind::Loaded:
+      return [self loadedRow:[loaded objectAtIndex:planned.loadedIndex] as:planned.action];
+    case root::PlannedRowKind::WarningGroup: {
+      PSSpecifier *group = [PSSpecifier emptyGroupSpecifier];
+      setIdentifier(group, root::kTrustedWarningGroupId);
+      return group;
+    }
+    case root::PlannedRowKind::Warning:
+      return [self warningRow:*plan.warning];
+    case root::PlannedRowKind::DeviceAuthGroup:
+    case root::PlannedRowKind::CreditsGroup:
+      return [PSSpecifier emptyGroupSpecifier];
+    case root::PlannedRowKind::DeviceAuth:
+      return [self deviceAuthenticationRow:*plan.deviceAuth];
+    case root::PlannedRowKind::Credits:
+      return [self creditsRow];
+    case root::PlannedRowKind::MoreAppsGroup:
+      return [self moreAppsGroup];
+  }
+  return nil;
+}
+
+- (PSSpecifier *)loadedRow:(PSSpecifier *)row as:(root::RowAction)action {
+  if (action == root::RowAction::KeepWithoutFooter) [row removePropertyForKey:@"footerText"];
+  if (action == root::RowAction::KeepAsResetTarget) {
+    TessarinPrefsListController *page = self;
+    [row setProperty:[NSValue value:&page withObjCType:@encode(id)] forKey:@"target"];
+    [row setTarget:self];
+    if ([row buttonAction] == NULL) [row setButtonAction:@selector(resetAllTessarinSettings:)];
+  }
+  return row;
+}
+
+// The status row: protection is off for the grace period or on a trusted network.
+- (PSSpecifier *)warningRow:(const root::WarningRow &)warning {
+  PSSpecifier *row = [PSSpecifier preferenceSpecifierNamed:localizedText(warning.title)
+                                                    target:self
+                                                       set:NULL
+                                                       get:NULL
+                                                    detail:Nil
+                                                      cell:(PSCellType)root::kStaticTextCellType
+                                                      edit:Nil];
+  [row setProperty:[TessarinTrustedWiFiWarningCell class] forKey:@"cellClass"];
+  [row setProperty:@(warning.height) forKey:@"height"];
+  setIdentifier(row, root::kTrustedWarningId);
+  return row;
+}
+
+// Face ID or Touch ID settings: the system's own page, or first the device passcode check.
+- (PSSpecifier *)deviceAuthenticationRow:(const root::DeviceAuthRow &)auth {
+  Class detail = auth.detailClass.empty() ? Nil : NSClassFromString(nsString(auth.detailClass));
+  PSSpecifier *row = [PSSpecifier preferenceSpecifierNamed:localizedText(auth.name)
+                                                    target:self
+                                                       set:NULL
+                                                       get:NULL
+                                                    detail:detail
+                                                      cell:(PSCellType)root::kDeviceAuthCellType
+                                                      edit:Nil];
+  if (!auth.loadAction.empty()) [row setControllerLoadAction:NSSelectorFromString(nsString(auth.loadAction))];
+  return row;
+}
+
+- (PSSpecifier *)creditsRow {
+  PSSpecifier *row = [PSSpecifier preferenceSpecifierNamed:localizedText(root::kCreditsText)
+                                                    target:self
+                                                       set:NULL
+                                                       get:NULL
+                                                    detail:Nil
+                                                      cell:(PSCellType)root::kCreditsCellType
+                                                      edit:Nil];
+  [row setProperty:[TessarinCreditsCell class] forKey:@"cellClass"];
+  [row setProperty:@(root::kCreditsAlignment) forKey:@"alignment"];
+  return row;
+}
+
+// The group whose footer view opens the maker's catalogue.
+- (PSSpecifier *)moreAppsGroup {
+  PSSpecifier *group = footerGroup(localizedText(root::kMoreAppsFooter));
+  [group setTarget:self];
+  [group setButtonAction:NSSelectorFromString(nsString(root::kMoreAppsAction))];
+  [group setProperty:nsString(root::kMoreAppsFooterCellClass) forKey:@"footerCellClass"];
+  [group setProperty:@(root::kMoreAppsHeight) forKey:@"height"];
+  // The footer view shows this text.
+  [group setProperty:localizedText(root::kMoreAppsFooter) forKey:nsString(tessarin::root::label_view::kTextProperty)];
+  return group;
 }
 
 - (void)setPreferenceValue:(id)value specifier:(PSSpecifier *)specifier {
@@ -284,10 +340,6 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
   NSDictionary *appsReply = askSpringBoard(tessarin::message::kApplications);
   [self setInstalledApps:[appsReply objectForKey:@"apps"]];
 
-  NSString *noPasscodeSet = localizedString(nsString(root::kNoPasscodeSetKey), nsString(root::kNoPasscodeSetDefault));
-  NSString *no = localizedString(nsString(root::kNoKey), nsString(root::kNoDefault));
-  const std::string noPasscodeSetText = stdString(noPasscodeSet);
-  const std::string noText = stdString(no);
   root::FirstRunFacts facts;
   facts.idsnReplied = idsnReply != nil;
   facts.idsnValue = integerEntry(idsnReply, @"idsn").value_or(0);
@@ -295,20 +347,18 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
   facts.productPasscodeStored = productPasscodeStored();
   facts.biometricSensor = iPhone64Bit();
   facts.faceID = hasPearl();
-  facts.noPasscodeSetText = noPasscodeSetText;
-  facts.noText = noText;
   if (std::optional<root::Alert> prompt = firstRunPrompt(facts)) [self showAlert:*prompt from:self];
 
   const CGFloat width = [[self view] frame].size.width;
   const root::Rect headerFrame = root::header::headerFrame(width);
-  const root::Rect labelFrame = root::header::versionLabelFrame(width);
+  const root::Rect labelFrame = root::header::versionLabelFrame(width, isRightToLeft([self view]));
   UIView *headerView =
-      [[UIView alloc] initWithFrame:CGRectMake(headerFrame.x, headerFrame.y, headerFrame.width, headerFrame.height)];
+      [[UIView alloc] initWithFrame:cgRect(headerFrame)];
   [headerView setClipsToBounds:root::header::kClipsToBounds];
   UILabel *label =
-      [[UILabel alloc] initWithFrame:CGRectMake(labelFrame.x, labelFrame.y, labelFrame.width, labelFrame.height)];
+      [[UILabel alloc] initWithFrame:cgRect(labelFrame)];
   [label setFont:[UIFont systemFontOfSize:root::header::kFontSize]];
-  [label setTextAlignment:(NSTextAlignment)root::header::kAlignment];
+  [label setTextAlignment:(NSTextAlignment)root::header::alignment(isRightToLeft([self view]))];
   [label setTextColor:[UIColor lightGrayColor]];
   const std::string version = root::versionText(cachedLibraryVersion);
   if (!version.empty()) [label setText:nsString(version)];
@@ -322,8 +372,8 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
 
 - (void)viewDidLayoutSubviews {
   [super viewDidLayoutSubviews];
-  const root::Rect frame = root::header::versionLabelFrame([[self view] frame].size.width);
-  [_versionLabel setFrame:CGRectMake(frame.x, frame.y, frame.width, frame.height)];
+  const root::Rect frame = root::header::versionLabelFrame([[self view] frame].size.width, isRightToLeft([self view]));
+  [_versionLabel setFrame:cgRect(frame)];
 }
 
 - (void)viewDidAppear:(BOOL)animated {
@@ -373,10 +423,10 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
     }
     UIAlertActionStyle style =
         button.style == root::ActionStyle::Cancel ? UIAlertActionStyleCancel : UIAlertActionStyleDefault;
-    [actions addObject:[UIAlertAction actionWithTitle:nsString(button.title) style:style handler:handler]];
+    [actions addObject:[UIAlertAction actionWithTitle:localizedText(button.title) style:style handler:handler]];
   }
   showAlertWithTitleAndMessageAndAlertActionsFromViewControllerWithStyle(
-      nsString(alert.title), nsString(alert.message), actions, presenter, UIAlertControllerStyleAlert);
+      localizedText(alert.title), localizedText(alert.message), actions, presenter, UIAlertControllerStyleAlert);
 }
 
 - (void)performEffect:(root::Effect)effect {

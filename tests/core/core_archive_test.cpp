@@ -266,6 +266,43 @@ struct HandArchive {
     std::string xml() const { return plist::writeXmlPlistRaw(tree()); }
 };
 
+// A binary property list as the writer lays it out (objects back to back in
+// index order) with the one object whose bytes are `from` replaced by `to`.
+std::vector<uint8_t> replaceObject(const std::vector<uint8_t> &bin, const std::vector<uint8_t> &from,
+                                   const std::vector<uint8_t> &to) {
+    auto readBE = [](const uint8_t *p, size_t n) {
+        uint64_t v = 0;
+        for (size_t i = 0; i < n; ++i) v = (v << 8) | p[i];
+        return v;
+    };
+    const uint8_t *trailer = bin.data() + bin.size() - 32;
+    const size_t offsetSize = trailer[6];
+    const auto count = static_cast<size_t>(readBE(trailer + 8, 8));
+    const auto table = static_cast<size_t>(readBE(trailer + 24, 8));
+    std::vector<size_t> offsets;
+    for (size_t i = 0; i < count; ++i)
+        offsets.push_back(static_cast<size_t>(readBE(bin.data() + table + i * offsetSize, offsetSize)));
+    offsets.push_back(table);
+    std::vector<uint8_t> out(bin.begin(), bin.begin() + 8);
+    std::vector<size_t> newOffsets;
+    int replaced = 0;
+    for (size_t i = 0; i < count; ++i) {
+        newOffsets.push_back(out.size());
+        const std::vector<uint8_t> object(bin.begin() + static_cast<std::ptrdiff_t>(offsets[i]),
+                                          bin.begin() + static_cast<std::ptrdiff_t>(offsets[i + 1]));
+        const bool match = object == from;
+        replaced += match;
+        out.insert(out.end(), match ? to.begin() : object.begin(), match ? to.end() : object.end());
+    }
+    EXPECT_EQ(replaced, 1);
+    const size_t newTable = out.size();
+    for (size_t off : newOffsets)
+        for (size_t k = offsetSize; k-- > 0;) out.push_back(static_cast<uint8_t>(off >> (8 * k)));
+    out.insert(out.end(), trailer, trailer + 24);
+    for (int k = 7; k >= 0; --k) out.push_back(static_cast<uint8_t>(newTable >> (8 * k)));
+    return out;
+}
+
 }  // namespace
 
 TEST(KeyedArchive, DecodesGnustepBinaryArchive) {
@@ -376,6 +413,58 @@ TEST(KeyedArchive, AcceptsMutableClassesAndFieldForms) {
         a.objects = c.objects;
         EXPECT_EQ(decode(a.binary()), c.expected) << c.name;
         EXPECT_EQ(decodeText(a.xml()), c.expected) << c.name;
+    }
+}
+
+TEST(KeyedArchive, RefusesReferencesWiderThan64Bits) {
+    // The root reference (UID 1, written {0x80, 0x01}) spelled in other widths. The
+    // marker allows up to 16 bytes; keeping the low 64 bits of a wider one would make
+    // 2^64 + 1 read as 1, a reference to another object.
+    struct Case {
+        const char *name;
+        std::vector<uint8_t> root;
+        bool decodes;
+    };
+    const Case cases[] = {
+        {"two bytes", {0x81, 0x00, 0x01}, true},
+        {"eight bytes", {0x87, 0, 0, 0, 0, 0, 0, 0, 1}, true},
+        {"nine bytes, 2^64 + 1", {0x88, 1, 0, 0, 0, 0, 0, 0, 0, 1}, false},
+        {"nine bytes, 1", {0x88, 0, 0, 0, 0, 0, 0, 0, 0, 1}, false},
+        {"sixteen bytes, 2^64 + 1", {0x8F, 0, 0, 0, 0, 0, 0, 0, 1, 0, 0, 0, 0, 0, 0, 0, 1}, false},
+    };
+    HandArchive a;
+    a.objects = {s("x")};
+    const std::vector<uint8_t> good = a.binary();
+    ASSERT_EQ(decode(good), str("x"));
+    for (const Case &c : cases) {
+        const std::vector<uint8_t> bin = replaceObject(good, {0x80, 0x01}, c.root);
+        EXPECT_EQ(decode(bin), c.decodes ? std::optional<Value>(str("x")) : std::nullopt) << c.name;
+        EXPECT_EQ(plist::readBinaryPlistRaw(bin.data(), bin.size()).has_value(), c.decodes) << c.name;
+    }
+}
+
+TEST(KeyedArchive, ReadsTheFirstOfARepeatedFieldInObjectsOfAnySize) {
+    // Objects may carry entries the decoder does not read; large ones are indexed rather
+    // than searched, and must still give the first of a repeated field, as small ones do.
+    for (int padding : {0, 3, 40}) {
+        std::vector<std::pair<std::string, RawNode>> string, cls;
+        for (int i = 0; i < padding; ++i) {
+            string.emplace_back("pad" + std::to_string(i), s("-"));
+            cls.emplace_back("pad" + std::to_string(i), s("NSArray"));
+        }
+        string.emplace_back("NS.string", uid(4));
+        string.emplace_back("$class", uid(3));
+        string.emplace_back("NS.string", uid(5));
+        string.emplace_back("$class", uid(6));
+        cls.emplace_back("$classname", s("NSString"));
+        cls.emplace_back("$classname", s("NSSet"));
+        HandArchive a;
+        // 1: an array of the string object three times; 2: the string; 3: its class.
+        a.objects = {rdict({{"NS.objects", uids({2, 2, 2})}, {"$class", uid(6)}}), rdict(string), rdict(cls),
+                     s("first"), s("second"), classDict("NSArray")};
+        const Value expected = Value::array({str("first"), str("first"), str("first")});
+        EXPECT_EQ(decode(a.binary()), expected) << padding;
+        EXPECT_EQ(decodeText(a.xml()), expected) << padding;
     }
 }
 

@@ -129,6 +129,28 @@ TEST(PlistValue, DictionaryKeepsInsertionOrderAndReplaces) {
     EXPECT_EQ(a.at(1), nullptr);
 }
 
+TEST(PlistValue, RepeatedKeysKeepTheirFirstPlaceAndLastValue) {
+    // Every reader builds its dictionaries through Value::dictionary: the same rule in each.
+    const Value expected = Value::dictionary({{"b", Value::integer(6)}, {"a", Value::integer(5)}, {"c", Value::integer(4)}});
+    const std::vector<std::pair<std::string, RawNode>> repeated = {
+        {"b", RawNode::makeScalar(Value::integer(1))}, {"a", RawNode::makeScalar(Value::integer(2))},
+        {"b", RawNode::makeScalar(Value::integer(3))}, {"c", RawNode::makeScalar(Value::integer(4))},
+        {"a", RawNode::makeScalar(Value::integer(5))}, {"b", RawNode::makeScalar(Value::integer(6))}};
+    const RawNode tree = RawNode::makeDictionary(repeated);
+    Value::Dictionary entries;
+    for (const auto &e : repeated) entries.emplace_back(e.first, e.second.scalar);
+    const std::optional<Value> read[] = {Value::dictionary(entries), readBinary(plist::writeBinaryPlistRaw(tree)),
+                                         readXml(plist::writeXmlPlistRaw(tree))};
+    for (const std::optional<Value> &v : read) {
+        ASSERT_TRUE(v.has_value());
+        ASSERT_EQ(v->size(), 3u);
+        EXPECT_EQ(v->asDictionary()->at(0).first, "b");
+        EXPECT_EQ(v->asDictionary()->at(1).first, "a");
+        EXPECT_EQ(v->asDictionary()->at(2).first, "c");
+        EXPECT_EQ(*v, expected);
+    }
+}
+
 TEST(BinaryPlist, RoundTrips) {
     std::string longAscii(300, 'q');
     std::vector<Value> many;
@@ -404,9 +426,85 @@ TEST(XmlPlist, ReadsEveryElement) {
     EXPECT_EQ(*v->find("uid"), dict({{"CF$UID", Value::integer(3)}}));
 }
 
-TEST(XmlPlist, WritesReadableDates) {
-    const std::string xml = plist::writeXmlPlist(Value::date(817034400.0));
-    EXPECT_NE(xml.find("<date>2026-11-22T10:00:00Z</date>"), std::string::npos) << xml;
+TEST(XmlPlist, WritesDatesOfAnyYearAsAppleDoes) {
+    // Whole seconds since 2001, astronomical years (year 0 is 1 BC) as "%04d" writes them.
+    constexpr double kDay = 86400, kYear400 = 146097 * kDay;
+    struct Case {
+        double seconds;
+        const char *text;
+        double readBack;
+    };
+    const Case cases[] = {
+        {817034400.0, "2026-11-22T10:00:00Z", 817034400.0},
+        {-0.5, "2000-12-31T23:59:59Z", -1.0},
+        {1.75, "2001-01-01T00:00:01Z", 1.0},
+        {-63113904000.0 - 1, "0000-12-31T23:59:59Z", -63113904001.0},
+        {-978307200.0, "1970-01-01T00:00:00Z", -978307200.0},
+        {252423993599.0, "9999-12-31T23:59:59Z", 252423993599.0},
+        {252423993600.0, "10000-01-01T00:00:00Z", 252423993600.0},
+        {-63145526400.0, "0000-01-01T00:00:00Z", -63145526400.0},
+        {-63145526400.0 - 365 * kDay, "-001-01-01T00:00:00Z", -63145526400.0 - 365 * kDay},
+        {-63145526400.0 - 25 * kYear400, "-10000-01-01T00:00:00Z", -63145526400.0 - 25 * kYear400},
+        // Doubles this large are whole multiples of 8 s.
+        {67767975255225592.0, "2147483647-12-31T23:59:52Z", 67767975255225592.0},
+        {-67768101514656000.0, "-2147483647-01-01T00:00:00Z", -67768101514656000.0},
+    };
+    for (const Case &c : cases) {
+        const std::string xml = plist::writeXmlPlist(Value::array({Value::date(c.seconds)}));
+        EXPECT_NE(xml.find(std::string("<date>") + c.text + "</date>"), std::string::npos) << c.text << "\n" << xml;
+        EXPECT_EQ(readXml(xml), Value::array({Value::date(c.readBack)})) << c.text;
+    }
+    // Beyond what a reader holding the year in 32 bits could take back; no calendar form.
+    for (double seconds : {67767975255225600.0, -67768101514656008.0, 1e17, -1e300,
+                           std::numeric_limits<double>::quiet_NaN(), HUGE_VAL, -HUGE_VAL})
+        EXPECT_EQ(plist::writeXmlPlist(Value::array({Value::date(seconds)})), "") << seconds;
+}
+
+TEST(XmlPlist, WritesInfinitiesAsAppleDoes) {
+    const std::string xml =
+        plist::writeXmlPlist(Value::array({Value::real(HUGE_VAL), Value::real(-HUGE_VAL), Value::real(std::nan(""))}));
+    EXPECT_NE(xml.find("<real>+infinity</real>\n\t<real>-infinity</real>\n\t<real>nan</real>"), std::string::npos) << xml;
+    const std::optional<Value> back = readXml(xml);
+    ASSERT_TRUE(back.has_value());
+    EXPECT_EQ(*back->at(0), Value::real(HUGE_VAL));
+    EXPECT_EQ(*back->at(1), Value::real(-HUGE_VAL));
+    EXPECT_TRUE(std::isnan(*back->at(2)->asReal()));
+}
+
+TEST(XmlPlist, WritesOnlyWellFormedCharacterData) {
+    struct Case {
+        const char *name;
+        std::string text;
+        const char *written;  // nullptr: refused, the document is empty
+    };
+    const Case cases[] = {
+        {"tab and line feed raw", "a\tb\nc", "a\tb\nc"},
+        {"carriage return as a reference", "a\rb\r\nc", "a&#13;b&#13;\nc"},
+        {"markup characters", "<a>&", "&lt;a&gt;&amp;"},
+        {"delete and C1 controls are XML characters", "\x7F\xC2\x85", "\x7F\xC2\x85"},
+        {"replacement character", "\xEF\xBF\xBD", "\xEF\xBF\xBD"},
+        {"non-BMP", "\xF0\x9F\x94\x92", "\xF0\x9F\x94\x92"},
+        {"NUL", std::string("a\0b", 3), nullptr},
+        {"start of heading", "\x01", nullptr},
+        {"unit separator", "x\x1F", nullptr},
+        {"vertical tab", "\x0B", nullptr},
+        {"form feed", "\x0C", nullptr},
+        {"U+FFFE", "\xEF\xBF\xBE", nullptr},
+        {"U+FFFF", "\xEF\xBF\xBF", nullptr},
+    };
+    for (const Case &c : cases) {
+        const Value asString = Value::string(c.text);
+        const Value asKey = Value::dictionary({{c.text, Value::boolean(true)}});
+        for (const Value &v : {asString, asKey}) {
+            const std::string xml = plist::writeXmlPlist(v);
+            if (!c.written) {
+                EXPECT_EQ(xml, "") << c.name;
+                continue;
+            }
+            EXPECT_NE(xml.find(std::string(">") + c.written + "</"), std::string::npos) << c.name << "\n" << xml;
+            EXPECT_EQ(readXml(xml), v) << c.name;
+        }
+    }
 }
 
 TEST(XmlPlist, RejectsMalformedDocuments) {
@@ -429,6 +527,14 @@ TEST(XmlPlist, RejectsMalformedDocuments) {
         "<plist><date>2026-02-30T10:00:00Z</date></plist>",
         "<plist><date>2026-11-22 10:00:00</date></plist>",
         "<plist><date>2026-13-01T10:00:00Z</date></plist>",
+        "<plist><date>999-01-01T00:00:00Z</date></plist>",
+        "<plist><date>-01-01-01T00:00:00Z</date></plist>",
+        "<plist><date>--001-01-01T00:00:00Z</date></plist>",
+        "<plist><date>+2026-01-01T00:00:00Z</date></plist>",
+        "<plist><date>2147483648-01-01T00:00:00Z</date></plist>",
+        "<plist><date>99999999999-01-01T00:00:00Z</date></plist>",
+        "<plist><date>2026-1-01T00:00:00Z</date></plist>",
+        "<plist><date>2026-01-01T00:00:00</date></plist>",
         "<plist><data>AQ*D</data></plist>",
         "<plist><data>AQ==AQ==</data></plist>",
         "<plist><string>&bogus;</string></plist>",

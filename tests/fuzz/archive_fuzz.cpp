@@ -64,7 +64,8 @@ void roundTripPlist(const Value &v) {
         check(back && same(v, *back, Dates::Exact));
         check(plist::writeBinaryPlist(*back) == bin);
     }
-    // Empty: a string that is not UTF-8, or a date outside the years 0 to 9999.
+    // Empty: what writeXmlPlist refuses (a string that is not UTF-8 or holds a
+    // character XML cannot carry, a date that is not finite or beyond a 32-bit year).
     const std::string xml = plist::writeXmlPlist(v);
     if (!xml.empty()) {
         std::optional<Value> back = plist::readXmlPlist(bytesOf(xml), xml.size());

@@ -7,10 +7,8 @@
 - (NSArray *)viewControllers {
   return [self childViewControllers];
 }
-- (void)setViewControllers:(NSArray *)controllers {
-  for (UIViewController *c in [self childViewControllers]) [c removeFromParentViewController];
-  for (UIViewController *c in controllers) [self addChildViewController:c];
-  if (![self isViewLoaded]) return;
+- (void)_simShowColumns {
+  NSArray *controllers = [self childViewControllers];
   CGRect bounds = self.view.bounds;
   CGFloat listWidth = controllers.count > 1 ? 320 : bounds.size.width;
   for (NSUInteger i = 0; i < controllers.count; i++) {
@@ -19,5 +17,15 @@
                      : CGRectMake(listWidth, 0, bounds.size.width - listWidth, bounds.size.height);
     [self.view addSubview:v];
   }
+}
+- (void)setViewControllers:(NSArray *)controllers {
+  for (UIViewController *c in [self childViewControllers]) [c removeFromParentViewController];
+  for (UIViewController *c in controllers) [self addChildViewController:c];
+  if ([self isViewLoaded]) [self _simShowColumns];
+}
+// Columns set before the view loads are shown when it does.
+- (void)viewDidLoad {
+  [super viewDidLoad];
+  [self _simShowColumns];
 }
 @end

@@ -156,8 +156,10 @@ private:
             return true;
         }
         case 0x8: {
+            // The marker allows up to 16 bytes; a reference wider than 64 bits could
+            // only be read by dropping its high bytes, which would point it elsewhere.
             const size_t n = size_t{nibble} + 1;
-            if (!has(pos, n)) return false;
+            if (n > 8 || !has(pos, n)) return false;
             out = RawNode::makeUid(readBigEndian(bytes_ + pos, n));
             return true;
         }
@@ -432,7 +434,7 @@ std::vector<uint8_t> writeBinaryPlistRaw(const RawNode &root) {
 std::optional<Value> readBinaryPlist(const uint8_t *bytes, size_t size) {
     std::optional<RawNode> raw = readBinaryPlistRaw(bytes, size);
     if (!raw) return std::nullopt;
-    return toValue(*raw);
+    return toValue(std::move(*raw));
 }
 
 std::vector<uint8_t> writeBinaryPlist(const Value &value) { return writeBinaryPlistRaw(toRaw(value)); }

@@ -1,8 +1,10 @@
 #include "core/plist/KeyedArchive.hpp"
 
+#include <array>
 #include <cstring>
 #include <string>
 #include <string_view>
+#include <unordered_map>
 
 #include "core/plist/RawNode.hpp"
 
@@ -26,6 +28,15 @@ ArchivedClass classify(std::string_view name) {
     if (name == "NSDate") return ArchivedClass::Date;
     return ArchivedClass::Unsupported;
 }
+
+// The entries the decoder reads from an archived object.
+enum Field { kClass, kClassName, kKeys, kObjects, kString, kData, kBytes, kTime, kFieldCount };
+constexpr const char *kFieldNames[kFieldCount] = {"$class",    "$classname", "NS.keys",  "NS.objects",
+                                                  "NS.string", "NS.data",    "NS.bytes", "NS.time"};
+using Fields = std::array<const RawNode *, kFieldCount>;
+
+// Objects with up to this many entries are searched; larger ones are indexed.
+constexpr size_t kScanLimit = 16;
 
 // Resolves UIDs against "$objects". Only property-list classes come out;
 // a reference to an object that is being decoded (a cycle), to "$null", or
@@ -64,17 +75,36 @@ private:
         return true;
     }
 
-    ArchivedClass classOf(const RawNode &object) const {
-        const RawNode *cls = object.find("$class");
+    /// The first entry named `f` in an object, as RawNode::find gives it; nullptr when
+    /// there is none or the object is not a dictionary. An object (a class above all) may
+    /// be referenced at every node the budget allows and may carry any number of entries
+    /// besides, so a large one is indexed on first use instead of searched at each
+    /// reference, which would cost the product of the two.
+    const RawNode *field(const RawNode &object, Field f) {
+        if (!object.isDictionary()) return nullptr;
+        if (object.entries.size() <= kScanLimit) return object.find(kFieldNames[f]);
+        auto it = indexed_.find(&object);
+        if (it == indexed_.end()) {
+            Fields fields{};
+            for (const auto &e : object.entries)
+                for (int i = 0; i < kFieldCount; ++i)
+                    if (!fields[i] && e.first == kFieldNames[i]) fields[i] = &e.second;
+            it = indexed_.emplace(&object, fields).first;
+        }
+        return it->second[f];
+    }
+
+    ArchivedClass classOf(const RawNode &object) {
+        const RawNode *cls = field(object, kClass);
         if (!cls || !cls->isUid() || cls->uid == 0 || cls->uid >= objects_.size())
             return ArchivedClass::Unsupported;
-        const std::string *name = scalarString(objects_[cls->uid].find("$classname"));
+        const std::string *name = scalarString(field(objects_[cls->uid], kClassName));
         return name ? classify(*name) : ArchivedClass::Unsupported;
     }
 
     // A field that is stored inline or behind a UID (never a container).
-    const RawNode *scalarField(const RawNode &object, const char *key) const {
-        const RawNode *f = object.find(key);
+    const RawNode *scalarField(const RawNode &object, Field key) {
+        const RawNode *f = field(object, key);
         if (f && f->isUid()) {
             if (f->uid == 0 || f->uid >= objects_.size()) return nullptr;
             f = &objects_[f->uid];
@@ -85,23 +115,24 @@ private:
     bool decodeInstance(const RawNode &object, size_t depth, Value &out) {
         switch (classOf(object)) {
         case ArchivedClass::Dictionary: {
-            const RawNode *keys = object.find("NS.keys");
-            const RawNode *values = object.find("NS.objects");
+            const RawNode *keys = field(object, kKeys);
+            const RawNode *values = field(object, kObjects);
             if (!keys || !values || !keys->isArray() || !values->isArray() ||
                 keys->items.size() != values->items.size())
                 return false;
-            Value dict = Value::dictionary();
+            Value::Dictionary entries;
+            entries.reserve(keys->items.size());
             for (size_t i = 0; i < keys->items.size(); ++i) {
                 Value key, value;
                 if (!decodeReference(keys->items[i], depth + 1, key) || !key.isString()) return false;
                 if (!decodeReference(values->items[i], depth + 1, value)) return false;
-                dict.set(*key.asString(), std::move(value));
+                entries.emplace_back(*key.asString(), std::move(value));
             }
-            out = std::move(dict);
+            out = Value::dictionary(std::move(entries));
             return true;
         }
         case ArchivedClass::Array: {
-            const RawNode *values = object.find("NS.objects");
+            const RawNode *values = field(object, kObjects);
             if (!values || !values->isArray()) return false;
             Value::Array items(values->items.size());
             for (size_t i = 0; i < items.size(); ++i)
@@ -110,20 +141,20 @@ private:
             return true;
         }
         case ArchivedClass::String: {
-            const RawNode *s = scalarField(object, "NS.string");
+            const RawNode *s = scalarField(object, kString);
             if (!s || !s->scalar.isString() || !addPayload(s->scalar)) return false;
             out = s->scalar;
             return true;
         }
         case ArchivedClass::Data: {
-            const RawNode *d = scalarField(object, "NS.data");
-            if (!d) d = scalarField(object, "NS.bytes");
+            const RawNode *d = scalarField(object, kData);
+            if (!d) d = scalarField(object, kBytes);
             if (!d || !d->scalar.isData() || !addPayload(d->scalar)) return false;
             out = d->scalar;
             return true;
         }
         case ArchivedClass::Date: {
-            const RawNode *t = scalarField(object, "NS.time");
+            const RawNode *t = scalarField(object, kTime);
             if (!t) return false;
             if (auto r = t->scalar.asReal()) {
                 out = Value::date(*r);
@@ -142,6 +173,7 @@ private:
 
     const std::vector<RawNode> &objects_;
     std::vector<uint8_t> onPath_;
+    std::unordered_map<const RawNode *, Fields> indexed_;
     size_t nodes_ = 0;
     size_t payload_ = 0;
 };

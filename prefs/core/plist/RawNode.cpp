@@ -39,28 +39,29 @@ const RawNode *RawNode::find(const char *key) const noexcept {
     return nullptr;
 }
 
-std::optional<Value> toValue(const RawNode &node) {
+std::optional<Value> toValue(RawNode &&node) {
     switch (node.kind) {
-    case RawNode::Kind::Scalar: return node.scalar;
+    case RawNode::Kind::Scalar: return std::move(node.scalar);
     case RawNode::Kind::Uid: return std::nullopt;
     case RawNode::Kind::Array: {
         Value::Array items;
         items.reserve(node.items.size());
-        for (const RawNode &child : node.items) {
-            std::optional<Value> v = toValue(child);
+        for (RawNode &child : node.items) {
+            std::optional<Value> v = toValue(std::move(child));
             if (!v) return std::nullopt;
             items.push_back(std::move(*v));
         }
         return Value::array(std::move(items));
     }
     case RawNode::Kind::Dictionary: {
-        Value dict = Value::dictionary();
-        for (const auto &e : node.entries) {
-            std::optional<Value> v = toValue(e.second);
+        Value::Dictionary entries;
+        entries.reserve(node.entries.size());
+        for (auto &e : node.entries) {
+            std::optional<Value> v = toValue(std::move(e.second));
             if (!v) return std::nullopt;
-            dict.set(e.first, std::move(*v));
+            entries.emplace_back(std::move(e.first), std::move(*v));
         }
-        return dict;
+        return Value::dictionary(std::move(entries));
     }
     }
     return std::nullopt;

@@ -11,14 +11,14 @@
 
 namespace tessarin::plist {
 
-// Reads a decimal real: an optional '-', digits with an optional '.' and fraction,
-// an optional exponent; or "inf", "infinity", "nan" in any case. No hexadecimal
-// form, no surrounding space. A finite text too large for a double is refused; one
-// too small reads as the nearest double (a subnormal or zero).
+/// Reads a decimal real: an optional '-', digits with an optional '.' and fraction,
+/// an optional exponent; or "inf", "infinity", "nan" in any case. No hexadecimal
+/// form, no surrounding space. A finite text too large for a double is refused; one
+/// too small reads as the nearest double (a subnormal or zero).
 bool parseRealText(std::string_view text, double &out);
 
-// The shortest decimal text that parseRealText reads back as exactly `value`
-// ("0.1", "1e+300", "-0"); "inf", "-inf" and "nan" for the non-finite values.
+/// The shortest decimal text that parseRealText reads back as exactly `value`
+/// ("0.1", "1e+300", "-0"); "inf", "-inf" and "nan" for the non-finite values.
 std::string formatRealText(double value);
 
 }  // namespace tessarin::plist

@@ -1,8 +1,48 @@
 #include "core/plist/Value.hpp"
 
+#include <algorithm>
 #include <limits>
+#include <numeric>
 
 namespace tessarin::plist {
+namespace {
+
+// Folds repeated keys the way set() does one key at a time: the first entry of a key
+// keeps its place and takes the value of the last one. Positions are sorted by key, so
+// the time is O(n log n) whatever the keys are (a hash table could be made quadratic by
+// keys chosen to collide).
+void mergeRepeatedKeys(Value::Dictionary &entries) {
+    const size_t n = entries.size();
+    if (n < 2) return;
+    std::vector<size_t> order(n);
+    std::iota(order.begin(), order.end(), size_t{0});
+    std::sort(order.begin(), order.end(), [&entries](size_t a, size_t b) {
+        const int c = entries[a].first.compare(entries[b].first);
+        return c < 0 || (c == 0 && a < b);
+    });
+    std::vector<uint8_t> folded(n, 0);
+    bool anyFolded = false;
+    for (size_t i = 0; i < n;) {
+        size_t end = i + 1;
+        while (end < n && entries[order[end]].first == entries[order[i]].first) ++end;
+        if (end - i > 1) {
+            entries[order[i]].second = std::move(entries[order[end - 1]].second);
+            for (size_t k = i + 1; k < end; ++k) folded[order[k]] = 1;
+            anyFolded = true;
+        }
+        i = end;
+    }
+    if (!anyFolded) return;
+    size_t kept = 0;
+    for (size_t i = 0; i < n; ++i) {
+        if (folded[i]) continue;
+        if (kept != i) entries[kept] = std::move(entries[i]);
+        ++kept;
+    }
+    entries.erase(entries.begin() + static_cast<std::ptrdiff_t>(kept), entries.end());
+}
+
+}  // namespace
 
 Value::Value() noexcept : storage_(false) {}
 
@@ -31,9 +71,8 @@ Value Value::date(double secondsSinceReferenceDate) {
 Value Value::array(Array items) { return Value(Storage(std::in_place_type<Array>, std::move(items))); }
 
 Value Value::dictionary(Dictionary entries) {
-    Value v(Storage(std::in_place_type<Dictionary>));
-    for (auto &e : entries) v.set(std::move(e.first), std::move(e.second));
-    return v;
+    mergeRepeatedKeys(entries);
+    return Value(Storage(std::in_place_type<Dictionary>, std::move(entries)));
 }
 
 Value::Kind Value::kind() const noexcept {

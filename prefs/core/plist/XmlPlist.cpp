@@ -45,31 +45,45 @@ void civilFromDays(int64_t z, int64_t &y, unsigned &m, unsigned &d) {
 
 constexpr int64_t kReferenceDays = 11323;  // 2001-01-01 in days since 1970-01-01
 
+// Years are written as Apple's writer writes them, printf's "%04d": at least four
+// characters, a '-' before the years before year 0 (astronomical numbering, so year 0
+// is 1 BC), more digits after year 9999. Apple's reader holds the year in 32 bits,
+// which bounds the years written and read.
+constexpr int64_t kMaxYear = 2147483647;
+
+// "YYYY-MM-DDTHH:MM:SSZ", the year as described above.
 bool parseDate(std::string_view s, double &out) {
     s = trim(s);
-    // YYYY-MM-DDTHH:MM:SSZ
-    if (s.size() != 20 || s[4] != '-' || s[7] != '-' || s[10] != 'T' || s[13] != ':' || s[16] != ':' ||
-        s[19] != 'Z')
+    const bool negative = !s.empty() && s.front() == '-';
+    const size_t yearDigits = s.find('-', negative ? 1 : 0) - (negative ? 1 : 0);
+    // The year field, sign included, is four to eleven characters.
+    if (yearDigits + (negative ? 1 : 0) < 4 || yearDigits > 10) return false;
+    const std::string_view rest = s.substr(yearDigits + (negative ? 1 : 0));
+    // -MM-DDTHH:MM:SSZ
+    if (rest.size() != 16 || rest[0] != '-' || rest[3] != '-' || rest[6] != 'T' || rest[9] != ':' ||
+        rest[12] != ':' || rest[15] != 'Z')
         return false;
-    auto num = [&](size_t at, size_t len, unsigned &v) {
+    auto num = [](std::string_view text, size_t at, size_t len, uint64_t &v) {
         v = 0;
         for (size_t i = at; i < at + len; ++i) {
-            if (s[i] < '0' || s[i] > '9') return false;
-            v = v * 10 + static_cast<unsigned>(s[i] - '0');
+            if (text[i] < '0' || text[i] > '9') return false;
+            v = v * 10 + static_cast<uint64_t>(text[i] - '0');
         }
         return true;
     };
-    unsigned y, mo, d, h, mi, se;
-    if (!num(0, 4, y) || !num(5, 2, mo) || !num(8, 2, d) || !num(11, 2, h) || !num(14, 2, mi) ||
-        !num(17, 2, se))
+    uint64_t y, mo, d, h, mi, se;
+    if (!num(s, negative ? 1 : 0, yearDigits, y) || !num(rest, 1, 2, mo) || !num(rest, 4, 2, d) ||
+        !num(rest, 7, 2, h) || !num(rest, 10, 2, mi) || !num(rest, 13, 2, se))
         return false;
+    if (y > static_cast<uint64_t>(kMaxYear)) return false;
     if (mo < 1 || mo > 12 || d < 1 || d > 31 || h > 23 || mi > 59 || se > 60) return false;
+    const int64_t year = negative ? -static_cast<int64_t>(y) : static_cast<int64_t>(y);
     int64_t cy;
     unsigned cm, cd;
-    const int64_t days = daysFromCivil(y, mo, d);
+    const int64_t days = daysFromCivil(year, static_cast<unsigned>(mo), static_cast<unsigned>(d));
     civilFromDays(days, cy, cm, cd);
     if (cm != mo || cd != d) return false;  // 30 February and the like
-    out = static_cast<double>((days - kReferenceDays) * 86400 + h * 3600 + mi * 60 + se);
+    out = static_cast<double>((days - kReferenceDays) * 86400 + static_cast<int64_t>(h * 3600 + mi * 60 + se));
     return true;
 }
 
@@ -385,15 +399,33 @@ private:
     size_t payload_ = 0;
 };
 
-void escape(std::string &out, std::string_view s) {
-    for (char c : s) {
+/// Appends character data (of valid UTF-8) with '<', '>' and '&' as entities and a
+/// carriage return as "&#13;": XML readers turn a raw one, alone or before a line feed,
+/// into a line feed. Returns false, leaving `out` partly written, for a character that
+/// XML 1.0 allows neither raw nor as a reference: the C0 controls other than tab, line
+/// feed and carriage return, U+FFFE and U+FFFF. Apple's writer writes those raw, which
+/// no XML reader but its own takes; Python's plistlib refuses the controls on writing,
+/// as this writer does (the binary format carries them).
+bool appendEscaped(std::string &out, std::string_view s) {
+    for (size_t i = 0; i < s.size(); ++i) {
+        const char c = s[i];
         switch (c) {
         case '<': out += "&lt;"; break;
         case '>': out += "&gt;"; break;
         case '&': out += "&amp;"; break;
-        default: out.push_back(c);
+        case '\r': out += "&#13;"; break;
+        case '\t':
+        case '\n': out.push_back(c); break;
+        default:
+            if (static_cast<unsigned char>(c) < 0x20) return false;
+            // U+FFFE and U+FFFF are EF BF BE and EF BF BF.
+            if (static_cast<unsigned char>(c) == 0xEF && i + 2 < s.size() &&
+                static_cast<unsigned char>(s[i + 1]) == 0xBF && (static_cast<unsigned char>(s[i + 2]) & 0xFE) == 0xBE)
+                return false;
+            out.push_back(c);
         }
     }
+    return true;
 }
 
 void encodeBase64(std::string &out, const Value::Bytes &b) {
@@ -416,8 +448,12 @@ void encodeBase64(std::string &out, const Value::Bytes &b) {
     }
 }
 
+// Whole seconds, rounded down (the format has no fraction), the year as parseDate
+// reads it. False for a date that is not finite or whose year is beyond kMaxYear
+// either way: no reader could take it back.
 bool formatDate(std::string &out, double seconds) {
-    if (!std::isfinite(seconds) || std::fabs(seconds) > 1e14) return false;
+    // 1e17 s is some 3 billion years, past kMaxYear, and well inside int64.
+    if (!std::isfinite(seconds) || std::fabs(seconds) > 1e17) return false;
     const auto total = static_cast<int64_t>(std::floor(seconds));
     int64_t days = total / 86400;
     int64_t rest = total % 86400;
@@ -428,12 +464,19 @@ bool formatDate(std::string &out, double seconds) {
     int64_t y;
     unsigned m, d;
     civilFromDays(days + kReferenceDays, y, m, d);
-    if (y < 0 || y > 9999) return false;
-    char buf[32];
-    std::snprintf(buf, sizeof buf, "%04d-%02u-%02uT%02d:%02d:%02dZ", static_cast<int>(y), m, d,
+    if (y < -kMaxYear || y > kMaxYear) return false;
+    char buf[40];
+    std::snprintf(buf, sizeof buf, "%04lld-%02u-%02uT%02d:%02d:%02dZ", static_cast<long long>(y), m, d,
                   static_cast<int>(rest / 3600), static_cast<int>(rest / 60 % 60), static_cast<int>(rest % 60));
     out += buf;
     return true;
+}
+
+// Apple's writer spells the infinities "+infinity" and "-infinity"; every reader takes
+// those, and NaN as "nan".
+std::string realText(double value) {
+    if (std::isinf(value)) return value > 0 ? "+infinity" : "-infinity";
+    return formatRealText(value);
 }
 
 bool writeNode(std::string &out, const RawNode &n, int indent) {
@@ -469,7 +512,7 @@ bool writeNode(std::string &out, const RawNode &n, int indent) {
             if (!isValidUtf8(e.first)) return false;
             out.append(static_cast<size_t>(indent + 1), '\t');
             out += "<key>";
-            escape(out, e.first);
+            if (!appendEscaped(out, e.first)) return false;
             out += "</key>\n";
             if (!writeNode(out, e.second, indent + 1)) return false;
         }
@@ -488,7 +531,7 @@ bool writeNode(std::string &out, const RawNode &n, int indent) {
         return true;
     case Value::Kind::Real: {
         out += "<real>";
-        out += formatRealText(*v.asReal());
+        out += realText(*v.asReal());
         out += "</real>\n";
         return true;
     }
@@ -505,7 +548,7 @@ bool writeNode(std::string &out, const RawNode &n, int indent) {
     case Value::Kind::String:
         if (!isValidUtf8(*v.asString())) return false;
         out += "<string>";
-        escape(out, *v.asString());
+        if (!appendEscaped(out, *v.asString())) return false;
         out += "</string>\n";
         return true;
     default: return false;
@@ -529,7 +572,7 @@ std::string writeXmlPlistRaw(const RawNode &root) {
 std::optional<Value> readXmlPlist(const uint8_t *bytes, size_t size) {
     std::optional<RawNode> raw = readXmlPlistRaw(bytes, size, false);
     if (!raw) return std::nullopt;
-    return toValue(*raw);
+    return toValue(std::move(*raw));
 }
 
 std::string writeXmlPlist(const Value &value) { return writeXmlPlistRaw(toRaw(value)); }

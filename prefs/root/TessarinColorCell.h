@@ -1,0 +1,6 @@
+// A subtitled switch with the product's red on-tint.
+#pragma once
+#import "core/PlatformAPI.h"
+
+@interface TessarinColorCell : PSSubtitleSwitchTableCell
+@end

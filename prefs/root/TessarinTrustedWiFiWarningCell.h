@@ -1,0 +1,6 @@
+// The status row above the plist rows: protection is off (grace period or trusted network).
+#pragma once
+#import "core/PlatformAPI.h"
+
+@interface TessarinTrustedWiFiWarningCell : PSTableCell
+@end
