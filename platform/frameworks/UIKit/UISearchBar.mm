@@ -11,9 +11,6 @@
 
 #import "UIKitInternal.h"
 
-@implementation UISearchTextField
-@end
-
 @implementation UISearchBar
 @synthesize delegate = _delegate;
 @synthesize prompt = _prompt;

@@ -1,4 +1,4 @@
-// The search controller, and the navigation item that shows its bar.
+// The search controller.
 //
 // What it rests on (UIKit documentation of UISearchController, UISearchResultsUpdating and
 // UINavigationItem): the controller becomes active when its search bar becomes first
@@ -7,8 +7,7 @@
 // search: the bar gives up the keyboard, its text is emptied and the updater is asked once
 // more; the delegate hears willPresent/didPresent and willDismiss/didDismiss around it.
 // obscuresBackgroundDuringPresentation and hidesNavigationBarDuringPresentation default to
-// YES. A navigation item's searchController (iOS 11) puts the bar under the navigation bar;
-// hidesSearchBarWhenScrolling (default YES) lets it scroll away with the content.
+// YES.
 //
 // Not simulated: the controller is not presented as a view controller of its own (pages here
 // show the results in their own table, with no results controller), so nothing dims.
@@ -80,22 +79,5 @@
 }
 - (void)_simSearchBarCancelled:(UISearchBar *)bar {
   self.active = NO;
-}
-@end
-
-@implementation UINavigationItem (UISearchController)
-- (UISearchController *)searchController {
-  return _searchController;
-}
-- (void)setSearchController:(UISearchController *)searchController {
-  [searchController retain];
-  [_searchController release];
-  _searchController = searchController;
-}
-- (BOOL)hidesSearchBarWhenScrolling {
-  return !_showsSearchBarWhileScrolling;
-}
-- (void)setHidesSearchBarWhenScrolling:(BOOL)hides {
-  _showsSearchBarWhileScrolling = !hides;
 }
 @end
