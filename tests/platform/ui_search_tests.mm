@@ -316,3 +316,65 @@ TEST_F(UISearchTest, ScrollingToARowBringsItWhereAsked) {
                          animated:NO];
     EXPECT_EQ(table.contentOffset.y, 2200);
 }
+
+// Heights a delegate gives, changeable between measures; counts how often it is asked.
+@interface ChangingHeights : IndexedRows <UITableViewDelegate> {
+  CGFloat _height;
+  NSInteger _heightsAsked;
+}
+@property(nonatomic, assign) CGFloat height;
+@property(nonatomic, assign) NSInteger askedForHeights;
+@end
+
+@implementation ChangingHeights
+@synthesize height = _height;
+@synthesize askedForHeights = _heightsAsked;
+- (CGFloat)tableView:(UITableView *)table heightForRowAtIndexPath:(NSIndexPath *)path {
+  _heightsAsked++;
+  return _height;
+}
+@end
+
+// The table keeps what it measured, as UIKit does, until something tells it the measures
+// changed: a long list is measured once per load, not once per row it places.
+TEST_F(UISearchTest, TheTableMeasuresOncePerLoadAndAgainWhenTold) {
+    ChangingHeights *rows = [[[ChangingHeights alloc] init] autorelease];
+    rows.height = 44;
+    UITableView *table = [[[UITableView alloc] initWithFrame:CGRectMake(0, 0, 320, 400)
+                                                       style:UITableViewStyleGrouped] autorelease];
+    rows.sections = 10;
+    rows.rows = 50;
+    table.dataSource = rows;
+    table.delegate = rows;
+    [table reloadData];
+    [table layoutIfNeeded];
+    // Each row once for the load, and once more as its cell is made for the screen.
+    const NSInteger onScreen = (NSInteger)[[table indexPathsForVisibleRows] count];
+    EXPECT_GT(onScreen, 0);
+    EXPECT_EQ(rows.askedForHeights, 500 + onScreen);
+    EXPECT_EQ(table.contentSize.height, 10 * (35 + 50 * 44 + 5));
+
+    NSIndexPath *last = [NSIndexPath indexPathForRow:49 inSection:9];
+    const CGFloat before = [table rectForRowAtIndexPath:last].origin.y;
+    rows.height = 50;
+    [table setNeedsLayout];
+    [table layoutIfNeeded];
+    EXPECT_EQ([table rectForRowAtIndexPath:last].origin.y, before) << "kept until told";
+
+    // A row reloaded is measured again, and what follows it moves.
+    [table reloadRowsAtIndexPaths:@[ [NSIndexPath indexPathForRow:0 inSection:0] ] withRowAnimation:UITableViewRowAnimationNone];
+    EXPECT_EQ([table rectForRowAtIndexPath:last].origin.y, before + 6);
+    // Updates end: everything is measured again, the content grows.
+    [table beginUpdates];
+    [table endUpdates];
+    EXPECT_EQ([table rectForRowAtIndexPath:last].origin.y, 10 * 35 + 9 * 5 + 499 * 50);
+    EXPECT_EQ(table.contentSize.height, 10 * (35 + 50 * 50 + 5));
+    // So does a new width, or a new load.
+    rows.height = 30;
+    table.frame = CGRectMake(0, 0, 300, 400);
+    EXPECT_EQ([table rectForRowAtIndexPath:last].size.height, 30);
+    rows.height = 20;
+    [table reloadData];
+    EXPECT_EQ([table rectForRowAtIndexPath:last].size.height, 20);
+    EXPECT_EQ(table.contentSize.height, 10 * (35 + 50 * 20 + 5));
+}

@@ -194,14 +194,30 @@ static PSCellType defaultCellType(NSString *name) {
 
 #pragma mark - Groups
 
-// Each group specifier starts a group; rows before the first one form a group too.
+// Each group specifier starts a group; rows before the first one form a group too. Kept
+// while the rows stay the same array of the same length, as the framework keeps its group
+// indices until the rows change (the table asks for them for every row it measures).
 - (NSArray *)_simGroupStarts:(NSArray *)rows {
+  if (_groups.count == 3 && [_groups objectAtIndex:0] == rows &&
+      [[_groups objectAtIndex:1] unsignedIntegerValue] == rows.count)
+    return [_groups objectAtIndex:2];
   NSMutableArray *starts = [NSMutableArray array];
   for (NSUInteger i = 0; i < rows.count; ++i) {
     PSSpecifier *s = [rows objectAtIndex:i];
     if (i == 0 || s.cellType == PSGroupCell) [starts addObject:[NSNumber numberWithUnsignedInteger:i]];
   }
+  [_groups release];
+  _groups = [[NSMutableArray alloc] initWithObjects:rows, [NSNumber numberWithUnsignedInteger:rows.count], starts, nil];
   return starts;
+}
+// The group's rows in the rows: [first, end).
+- (BOOL)_simGroup:(NSInteger)group first:(NSUInteger *)first end:(NSUInteger *)end inRows:(NSArray *)rows {
+  NSArray *starts = [self _simGroupStarts:rows];
+  if (group < 0 || (NSUInteger)group >= starts.count) return NO;
+  NSUInteger start = [[starts objectAtIndex:group] unsignedIntegerValue];
+  *end = (NSUInteger)group + 1 < starts.count ? [[starts objectAtIndex:group + 1] unsignedIntegerValue] : rows.count;
+  *first = [(PSSpecifier *)[rows objectAtIndex:start] cellType] == PSGroupCell ? start + 1 : start;
+  return YES;
 }
 - (NSInteger)numberOfGroups {
   return [self _simGroupStarts:[self _simRows]].count;
@@ -232,15 +248,20 @@ static PSCellType defaultCellType(NSString *name) {
   return out;
 }
 - (NSInteger)rowsForGroup:(NSInteger)group {
-  return [self specifiersInGroup:group].count;
+  NSUInteger first, end;
+  return [self _simGroup:group first:&first end:&end inRows:[self _simRows]] ? (NSInteger)(end - first) : 0;
 }
 - (NSInteger)indexForRow:(NSInteger)row inGroup:(NSInteger)group {
   PSSpecifier *s = [self specifierAtIndexPath:[NSIndexPath indexPathForRow:row inSection:group]];
   return s ? [[self _simRows] indexOfObjectIdenticalTo:s] : NSNotFound;
 }
 - (PSSpecifier *)specifierAtIndexPath:(NSIndexPath *)indexPath {
-  NSArray *rows = [self specifiersInGroup:indexPath.section];
-  return indexPath.row >= 0 && (NSUInteger)indexPath.row < rows.count ? [rows objectAtIndex:indexPath.row] : nil;
+  NSArray *rows = [self _simRows];
+  NSUInteger first, end;
+  if (![self _simGroup:indexPath.section first:&first end:&end inRows:rows] || indexPath.row < 0 ||
+      (NSUInteger)indexPath.row >= end - first)
+    return nil;
+  return [rows objectAtIndex:first + indexPath.row];
 }
 - (BOOL)getGroup:(NSInteger *)group row:(NSInteger *)row ofSpecifier:(PSSpecifier *)specifier {
   NSArray *rows = [self _simRows];

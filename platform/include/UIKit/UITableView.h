@@ -73,9 +73,12 @@ UIKIT_EXTERN const CGFloat UITableViewAutomaticDimension;
 - (NSString *)tableView:(UITableView *)tableView titleForDeleteConfirmationButtonForRowAtIndexPath:(NSIndexPath *)indexPath;
 @end
 
-/* A table. Every row counts as visible: cellForRowAtIndexPath: asks the data source for a
-   row's cell the first time after a reload, sizes it to the table's width and the row's
-   height, lays it out and keeps it until the next reload. */
+/* A table. cellForRowAtIndexPath: asks the data source for a row's cell the first time after
+   a reload, sizes it to the table's width and the row's height, lays it out and keeps it until
+   the next reload; layout makes the cells of the rows on screen. Heights are asked of the
+   delegate when the data is loaded and kept (a row is measured again when its cell is made),
+   until reloadData, reloadSections:, reloadRowsAtIndexPaths:, endUpdates, a new width, table
+   header or default height. */
 @interface UITableView : UIScrollView {
   UITableViewStyle _style;
   id _dataSource;
@@ -98,6 +101,7 @@ UIKIT_EXTERN const CGFloat UITableViewAutomaticDimension;
   NSMutableDictionary *_registeredClasses;
   NSIndexPath *_selectedIndexPath;
   NSInteger _updateDepth;
+  struct _SimTableGeometry *_geometry;
 }
 - (instancetype)initWithFrame:(CGRect)frame style:(UITableViewStyle)style;
 @property(nonatomic, readonly) UITableViewStyle style;
