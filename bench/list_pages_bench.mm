@@ -1,9 +1,12 @@
 // The protection-list pages on a large device: the applications page's row build with 500
 // applications spread over the four scanned places, next to the raw cost of opening and
-// reading the same 500 Info.plists; the folders page with its folders of twelve apps, and
-// the pictures of 200 of them.
+// reading the same 500 Info.plists; one keystroke of its search over the 500; opening it
+// and jumping to "S" through its index; the folders page with its folders of twelve apps,
+// and the pictures of 200 of them.
 #import <Foundation/Foundation.h>
 #import <Preferences/PSListController.h>
+#import <Preferences/PreferencesSimulation.h>
+#import <UIKit/UIKitSimulation.h>
 #include <Simulator/SimApplications.h>
 #include <Simulator/Simulator.h>
 #include <benchmark/benchmark.h>
@@ -11,11 +14,14 @@
 #include <dlfcn.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <chrono>
 #include <cstdio>
 #include <string>
+#include <vector>
 
 #import "SettingsHost.h"
+#include "lists/ListSearch.hpp"
 
 namespace {
 
@@ -163,6 +169,128 @@ void ApplicationsPageRows(benchmark::State &state) {
                 rawTotal / runs * 1e3, pageTotal / rawTotal, (pageTotal - requestTotal) / rawTotal);
 }
 
+double median(std::vector<double> samples) {
+    if (samples.empty()) return 0;
+    std::sort(samples.begin(), samples.end());
+    return samples[samples.size() / 2];
+}
+
+// A person typing "application 42" into the search field, key by key, then starting over:
+// early keys match nearly every row, the later ones a few.
+NSString *const kTyped = @"application 42";
+
+// One keystroke of the applications page's search over 500 applications, three ways: the
+// core's matching alone; the page's update (the updater told of the new text, the rows it
+// shows chosen), as on a device where UIKit then draws only the rows on screen; and the page
+// shown, the key typed into its field and the stand-in's table reloaded and laid out.
+void ApplicationsSearchKeystroke(benchmark::State &state) {
+    NSMutableArray *infoPlists = [NSMutableArray array];
+    LargeDevice device(applicationsProfile(infoPlists));
+    if (!device.ok()) {
+        state.SkipWithError("cannot make the device");
+        return;
+    }
+    const int way = (int)state.range(0);
+    Class pageClass = NSClassFromString(@"TessarinApplicationsController");
+    PSListController *page = [[[pageClass alloc] init] autorelease];
+    UISearchController *search = [[[UISearchController alloc] initWithSearchResultsController:nil] autorelease];
+    tessarin::lists::ListSearch core;
+    if (way == 2) {
+        [[SimSettingsRootController() rootListController] pushController:page animate:NO];
+        [page view];
+        SimRunLoopDisplayPass();
+        search = [[page navigationItem] searchController];
+    }
+    for (PSSpecifier *row in [page specifiers])
+        if ([row cellType] == PSSwitchCell) core.add([[row name] UTF8String], [[row propertyForKey:@"id"] UTF8String]);
+    std::vector<double> samples;
+    size_t shown = 0, typed = 0;
+    for (auto _ : state) {
+        typed = typed % [kTyped length] + 1;
+        NSString *text = [kTyped substringToIndex:typed];
+        if (typed == 1 && way == 2) SimSearchBarClear([search searchBar]);
+        auto start = std::chrono::steady_clock::now();
+        if (way == 0) {
+            shown = core.matches([text UTF8String]).size();
+        } else if (way == 1) {
+            [[search searchBar] setText:text];
+            [(id<UISearchResultsUpdating>)page updateSearchResultsForSearchController:search];
+            shown = [[page specifiers] count];
+        } else {
+            SimSearchBarType([search searchBar], [text substringFromIndex:typed - 1]);
+            SimRunLoopDisplayPass();
+            shown = [[page specifiers] count];
+        }
+        const double s = seconds(start);
+        benchmark::DoNotOptimize(shown);
+        state.SetIterationTime(s);
+        samples.push_back(s);
+    }
+    if (way == 2) SimSettingsReset();
+    const char *const ways[] = {"the matching alone", "the page's rows", "the page on screen, the stand-in's table laid out"};
+    state.counters["median_ms"] = median(samples) * 1e3;
+    std::printf("search keystroke over %d applications, %s: median %.3f ms, slowest %.3f ms (%zu keystrokes)\n",
+                kApplications, ways[way], median(samples) * 1e3, *std::max_element(samples.begin(), samples.end()) * 1e3,
+                samples.size());
+}
+
+// 500 applications under every letter, some names starting with an accent, a digit or an
+// invisible mark: the page opened as Settings opens it (rows built, first layout), then a
+// touch on "S" in its index and the layout of the screen it scrolls to.
+NSDictionary *lettersProfile() {
+    NSMutableArray *installed = [NSMutableArray array], *offered = [NSMutableArray array];
+    NSArray *starts = @[ @"A", @"\u00C4", @"B", @"C", @"D", @"E", @"\u00C9", @"F", @"G", @"H", @"I", @"J", @"K", @"L",
+                         @"M", @"N", @"O", @"\u00D8", @"P", @"Q", @"R", @"S", @"\u200ES", @"T", @"U", @"V", @"W", @"X",
+                         @"Y", @"Z", @"1", @"\u4E2D" ];
+    for (int i = 0; i < kApplications; i++) {
+        NSString *identifier = [NSString stringWithFormat:@"com.bench.letters%03d", i];
+        NSString *name = [NSString stringWithFormat:@"%@pp %03d", [starts objectAtIndex:i % [starts count]], i];
+        NSString *source = kSources[i % 4];
+        [installed addObject:@{@"source" : source, @"bundle" : [NSString stringWithFormat:@"L%03d.app", i],
+                               @"container" : [NSString stringWithFormat:@"L%03d", i],
+                               @"info" : @{@"CFBundleIdentifier" : identifier, @"CFBundleDisplayName" : name}}];
+        [offered addObject:@{@"bundleIdentifier" : identifier, @"displayName" : name}];
+    }
+    return @{@"installedApplications" : installed, @"apps" : offered, @"files" : @[]};
+}
+
+void ApplicationsOpenAndJumpToS(benchmark::State &state) {
+    LargeDevice device(lettersProfile());
+    if (!device.ok()) {
+        state.SkipWithError("cannot make the device");
+        return;
+    }
+    Class pageClass = NSClassFromString(@"TessarinApplicationsController");
+    std::vector<double> opens, jumps;
+    size_t rows = 0;
+    CGFloat offset = 0;
+    for (auto _ : state) {
+        NSAutoreleasePool *pool = [[NSAutoreleasePool alloc] init];
+        auto start = std::chrono::steady_clock::now();
+        PSListController *page = [[[pageClass alloc] init] autorelease];
+        [[SimSettingsRootController() rootListController] pushController:page animate:NO];
+        [page view];
+        SimRunLoopDisplayPass();
+        const double open = seconds(start);
+        start = std::chrono::steady_clock::now();
+        if (!SimTableViewTapSectionIndex([page table], @"S")) state.SkipWithError("the page shows no index");
+        SimRunLoopDisplayPass();
+        const double jump = seconds(start);
+        rows = [[page specifiers] count];
+        offset = [[page table] contentOffset].y;
+        state.SetIterationTime(open + jump);
+        opens.push_back(open);
+        jumps.push_back(jump);
+        SimSettingsReset();
+        [pool drain];
+    }
+    state.counters["open_ms"] = median(opens) * 1e3;
+    state.counters["jump_ms"] = median(jumps) * 1e3;
+    std::printf("applications page with %d applications: %zu rows with the index's headers; opening (rows and first "
+                "layout) median %.1f ms, then S through the index (scroll to %.0f and its layout) median %.2f ms\n",
+                kApplications, rows, median(opens) * 1e3, offset, median(jumps) * 1e3);
+}
+
 NSArray *foldersOfTwelve(int count) {
     NSMutableArray *folders = [NSMutableArray array];
     for (int i = 0; i < count; i++) {
@@ -224,5 +352,9 @@ void FolderPictures(benchmark::State &state) {
 }  // namespace
 
 BENCHMARK(ApplicationsPageRows)->Iterations(10)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(ApplicationsSearchKeystroke)->Arg(0)->Iterations(280)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(ApplicationsSearchKeystroke)->Arg(1)->Iterations(140)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(ApplicationsSearchKeystroke)->Arg(2)->Iterations(28)->UseManualTime()->Unit(benchmark::kMillisecond);
+BENCHMARK(ApplicationsOpenAndJumpToS)->Iterations(5)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(FoldersPageRows)->Arg(kFolders)->Iterations(10)->UseManualTime()->Unit(benchmark::kMillisecond);
 BENCHMARK(FolderPictures)->Iterations(10)->UseManualTime()->Unit(benchmark::kMillisecond);
