@@ -2,6 +2,7 @@
 #import "SettingsIconRows.h"
 #import "HostPrivateAPI.h"
 #import "SettingsScreen.h"
+#import "SettingsPictures.h"
 #import "SettingsRowIcons.h"
 #include <Simulator/Simulator.h>
 
@@ -74,6 +75,9 @@ static void performOn(id target, SEL action, id argument) {
           "  wait SECONDS       let the app run (animations, delayed work)\n"
           "  show               print the screen again\n"
           "  icons              list the rows with their switch state and icon\n"
+          "  screenshot FILE    write what the screen shows as a PNG picture (screenshot FILE full:\n"
+          "                     the whole page on top, however long)\n"
+          "  gallery FOLDER     write a picture of every page of the product into FOLDER\n"
           "  quit               leave\n";
 }
 
@@ -460,6 +464,16 @@ static UITextField *focusedTextField(UIView *view) {
     [self settle];
     [self render];
     return SettingsRowIconsReport([self screen]);
+  }
+  if ([verb isEqualToString:@"screenshot"] && (count == 2 || (count == 3 && [[words objectAtIndex:2] isEqualToString:@"full"]))) {
+    [self settle];
+    NSString *failure = SettingsWriteScreenshot([words objectAtIndex:1], count == 3);
+    return failure != nil ? [failure stringByAppendingString:@"\n"]
+                          : [NSString stringWithFormat:@"Picture written: %@\n", [words objectAtIndex:1]];
+  }
+  if ([verb isEqualToString:@"gallery"] && count == 2) {
+    [self settle];
+    return SettingsWriteGallery(self, [words objectAtIndex:1]);
   }
   if ([verb isEqualToString:@"wait"]) {
     double seconds = count == 2 ? [[words objectAtIndex:1] doubleValue] : -1;
