@@ -1,7 +1,8 @@
 // The simulated Settings app's command line: makes a device from a profile, installs the
 // package, starts SpringBoard, loads the bundle, opens the product's settings and lets a
 // person (or a script) use them.
-//   tessarin-settings [--profile NAME] [--script FILE|-] [--messages] [--no-springboard] [--keep-device]
+//   tessarin-settings [--profile NAME] [--language CODE] [--script FILE|-] [--messages] [--no-springboard]
+//                     [--keep-device]
 #import <Foundation/Foundation.h>
 #include <Simulator/Simulator.h>
 #include <signal.h>
@@ -42,8 +43,10 @@ static void onSignal(int signo) {
 
 static void usage(FILE *out) {
   fprintf(out,
-          "usage: tessarin-settings [--profile NAME] [--script FILE|-] [--messages] [--no-springboard] [--keep-device]\n"
+          "usage: tessarin-settings [--profile NAME] [--language CODE] [--script FILE|-] [--messages] [--no-springboard]\n"
+          "                         [--keep-device]\n"
           "  --profile NAME    device profile (default %s)\n"
+          "  --language CODE   the user's language first (de, ja, ar, pt-BR, zh-Hans...), as chosen in Settings\n"
           "  --script FILE     run the commands of FILE ('-': standard input) instead of asking\n"
           "  --messages        send the bundle's messages to SpringBoard and print the replies\n"
           "  --no-springboard  do not start the simulated SpringBoard\n"
@@ -85,11 +88,14 @@ int main(int argc, char **argv) {
   NSAutoreleasePool *pool = [[NSAutoreleasePool alloc] init];
   const char *profile = SIM_DEFAULT_PROFILE;
   const char *script = NULL;
+  const char *language = NULL;
   bool messages = false;
   bool springBoard = true;
   for (int i = 1; i < argc; i++) {
     if (strcmp(argv[i], "--profile") == 0 && i + 1 < argc) {
       profile = argv[++i];
+    } else if (strcmp(argv[i], "--language") == 0 && i + 1 < argc) {
+      language = argv[++i];
     } else if (strcmp(argv[i], "--script") == 0 && i + 1 < argc) {
       script = argv[++i];
     } else if (strcmp(argv[i], "--messages") == 0) {
@@ -131,9 +137,15 @@ int main(int argc, char **argv) {
     return 1;
   }
   snprintf(gDeviceRoot, sizeof gDeviceRoot, "%s", root);
+  if (language != NULL && SimDeviceChooseLanguage(language) != 0) {
+    fprintf(stderr, "tessarin-settings: cannot choose the language '%s'\n", language);
+    return 2;
+  }
   NSString *profileName = [SimDeviceProfile() objectForKey:@"name"];
   printf("Device: %s%s%s%s\n", profile, profileName != nil ? " (" : "", profileName != nil ? [profileName UTF8String] : "",
          profileName != nil ? ")" : "");
+  NSArray *languages = SimUserLanguages();
+  printf("Languages: %s\n", [[languages componentsJoinedByString:@", "] UTF8String]);
   if (gKeepDevice) printf("Device tree: %s\n", root);
   if (!SettingsHostInstallPackage()) {
     fprintf(stderr, "tessarin-settings: cannot install the package into the device\n");

@@ -1,5 +1,6 @@
 #import "core/BundleLookup.h"
 #import "core/Paths.h"
+#import "core/Strings.h"
 
 NSBundle *tessarinBundle(void) {
   NSArray *installed = @[
@@ -19,7 +20,16 @@ NSBundle *tessarinBundle(void) {
 }
 
 NSString *localizedString(NSString *key, NSString *fallback) {
+  if ([key length] == 0) return fallback;
   NSBundle *bundle = tessarinBundle();
-  if (bundle == nil || key == nil) return fallback;
+  if (bundle == nil) return fallback;
   return [bundle localizedStringForKey:key value:fallback table:nil];
 }
+
+NSString *localizedText(const tessarin::LocalText &text) {
+  NSString *english = nsStringOrEmpty(text.english);
+  if (text.key.empty()) return english;
+  return localizedString(nsString(text.key), english);
+}
+
+std::string localizedCoreText(const tessarin::LocalText &text) { return stdString(localizedText(text)); }

@@ -8,3 +8,8 @@ PSSpecifier *footerGroup(NSString *footer);
 
 // A switch row of `target` with the given accessors (no detail, no edit pane).
 PSSpecifier *switchRow(NSString *name, id target, SEL setter, SEL getter);
+
+// A plist row's subtitle ("cellSubtitleText") in the user's language, from the plist's own
+// table as its label and footer are: the Preferences framework localises those, and only
+// those are documented to be.
+void localizeSubtitle(PSSpecifier *row, NSString *plistName);

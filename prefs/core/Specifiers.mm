@@ -1,4 +1,5 @@
 #import "core/Specifiers.h"
+#import "core/BundleLookup.h"
 
 PSSpecifier *footerGroup(NSString *footer) {
   if ([PSSpecifier respondsToSelector:@selector(groupSpecifierWithHeader:footer:)])
@@ -16,4 +17,11 @@ PSSpecifier *switchRow(NSString *name, id target, SEL setter, SEL getter) {
                                         detail:Nil
                                           cell:PSSwitchCell
                                           edit:Nil];
+}
+
+void localizeSubtitle(PSSpecifier *row, NSString *plistName) {
+  id subtitle = [row propertyForKey:@"cellSubtitleText"];
+  NSBundle *bundle = tessarinBundle();
+  if (![subtitle isKindOfClass:[NSString class]] || bundle == nil) return;
+  [row setProperty:[bundle localizedStringForKey:subtitle value:subtitle table:plistName] forKey:@"cellSubtitleText"];
 }

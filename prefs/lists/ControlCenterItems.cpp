@@ -5,31 +5,41 @@
 
 namespace tessarin::lists {
 
+namespace {
+constexpr LocalText kAirplaneMode{"CC_AIRPLANE_MODE", "Airplane Mode"};
+constexpr LocalText kCellularData{"CC_CELLULAR_DATA", "Cellular Data"};
+constexpr LocalText kWiFi{"CC_WIFI", "WiFi"};
+constexpr LocalText kBluetooth{"CC_BLUETOOTH", "Bluetooth"};
+constexpr LocalText kAirDrop{"CC_AIRDROP", "AirDrop"};
+constexpr LocalText kPersonalHotspot{"CC_PERSONAL_HOTSPOT", "Personal Hotspot"};
+}  // namespace
+
 const CCTableRow kConnectivitySettingsIconRows[6] = {
-    {"Airplane Mode", "airplane", "AirplaneMode", kPreferencesFramework},
-    {"Cellular Data", "cellular", "CellularData", kPreferencesFramework},
-    {"WiFi", "wifi", "WiFi", kPreferencesFramework},
-    {"Bluetooth", "bluetooth", "Bluetooth", kPreferencesFramework},
-    {"AirDrop", "airdrop", "AirDrop-Settings", kSharingFramework},
-    {"Personal Hotspot", "hotspot", "PersonalHotspot", kPreferencesFramework},
+    {kAirplaneMode, "airplane", "AirplaneMode", kPreferencesFramework},
+    {kCellularData, "cellular", "CellularData", kPreferencesFramework},
+    {kWiFi, "wifi", "WiFi", kPreferencesFramework},
+    {kBluetooth, "bluetooth", "Bluetooth", kPreferencesFramework},
+    {kAirDrop, "airdrop", "AirDrop-Settings", kSharingFramework},
+    {kPersonalHotspot, "hotspot", "PersonalHotspot", kPreferencesFramework},
 };
 
 const CCTableRow kConnectivityGlyphRows[6] = {
-    {"Airplane Mode", "airplane", "AirplaneGlyph", kConnectivityModule},
-    {"Cellular Data", "cellular", "CellularDataGlyph", kConnectivityModule},
-    {"WiFi", "wifi", "WiFiSignalHighGlyph", kConnectivityModule},
-    {"Bluetooth", "bluetooth", "bt_logo", kLegacyGameKitFramework},
-    {"AirDrop", "airdrop", "AirDropGlyph", kConnectivityModule},
-    {"Personal Hotspot", "hotspot", "HotspotGlyph", kConnectivityModule},
+    {kAirplaneMode, "airplane", "AirplaneGlyph", kConnectivityModule},
+    {kCellularData, "cellular", "CellularDataGlyph", kConnectivityModule},
+    {kWiFi, "wifi", "WiFiSignalHighGlyph", kConnectivityModule},
+    {kBluetooth, "bluetooth", "bt_logo", kLegacyGameKitFramework},
+    {kAirDrop, "airdrop", "AirDropGlyph", kConnectivityModule},
+    {kPersonalHotspot, "hotspot", "HotspotGlyph", kConnectivityModule},
 };
 
 // The classic layout takes each glyph from SpringBoard, else from ControlCenterUI.
+// Its titles are its own ("Wifi", not "WiFi"): they have keys of their own.
 const CCTableRow kClassicRows[5] = {
-    {"Airplane Mode", "airplaneMode", "ControlCenterGlyphAirplane", ""},
-    {"Wifi", "wifi", "ControlCenterGlyphWifi", ""},
-    {"Bluetooth", "bluetooth", "ControlCenterGlyphBluetooth", ""},
-    {"Do not disturb", "doNotDisturb", "ControlCenterGlyphMoon", ""},
-    {"Orientation lock", "orientationLock", "ControlCenterGlyphOrientationLocked", ""},
+    {kAirplaneMode, "airplaneMode", "ControlCenterGlyphAirplane", ""},
+    {{"CC_CLASSIC_WIFI", "Wifi"}, "wifi", "ControlCenterGlyphWifi", ""},
+    {kBluetooth, "bluetooth", "ControlCenterGlyphBluetooth", ""},
+    {{"CC_DO_NOT_DISTURB", "Do not disturb"}, "doNotDisturb", "ControlCenterGlyphMoon", ""},
+    {{"CC_ORIENTATION_LOCK", "Orientation lock"}, "orientationLock", "ControlCenterGlyphOrientationLocked", ""},
 };
 
 const std::string_view kSkippedModules[6] = {
@@ -58,8 +68,8 @@ std::string withoutWord(std::string_view text, std::string_view word) {
 }
 
 std::optional<std::string> moduleTitle(std::string_view bundleName, const std::optional<std::string> &displayName,
-                                       const std::optional<std::string> &bundleDisplayName) {
-    if (bundleName == "ReplayKitModule.bundle") return std::string("Screen Recording");
+                                       const std::optional<std::string> &bundleDisplayName, TextLookup lookup) {
+    if (bundleName == "ReplayKitModule.bundle") return lookup(kScreenRecordingTitle);
     if (displayName) return displayName;
     if (bundleDisplayName) return withoutWord(*bundleDisplayName, "Module");
     return std::nullopt;
@@ -81,7 +91,37 @@ std::string capitalisedWords(std::string_view text) {
     return out;
 }
 
-std::string ccSettingsTitle(std::string_view identifier) {
+const CCSettingsTitle kCCSettingsTitles[21] = {
+    {"wifi", {"CCS_WIFI", "WiFi"}},
+    {"airplaneMode", {"CCS_AIRPLANE_MODE", "Airplane Mode"}},
+    {"location", {"CCS_LOCATION", "Location"}},
+    {"doNotDisturb", {"CCS_DO_NOT_DISTURB", "Do Not Disturb"}},
+    {"home", {"CCS_HOME", "Home"}},
+    {"lock", {"CCS_LOCK", "Lock"}},
+    {"bluetooth", {"CCS_BLUETOOTH", "Bluetooth"}},
+    {"hotspot", {"CCS_HOTSPOT", "Hotspot"}},
+    {"VPN", {"CCS_VPN", "VPN"}},
+    {"autoLock", {"CCS_AUTO_LOCK", "Auto Lock"}},
+    {"orientationLock", {"CCS_ORIENTATION_LOCK", "Orientation Lock"}},
+    {"vibrate", {"CCS_VIBRATE", "Vibrate"}},
+    {"mute", {"CCS_MUTE", "Mute"}},
+    {"dataRate", {"CCS_LTE", "LTE"}},
+    {"killbackground", {"CCS_KILL_BACKGROUND", "Kill Background"}},
+    {"clearBadge", {"CCS_CLEAR_BADGE", "Clear Badge"}},
+    {"shutdown", {"CCS_SHUTDOWN", "Shutdown"}},
+    {"reboot", {"CCS_REBOOT", "Reboot"}},
+    {"respring", {"CCS_RESPRING", "Respring"}},
+    {"screenShot", {"CCS_SCREEN_SHOT", "Screen Shot"}},
+    {"data", {"CCS_DATA", "Data"}},
+};
+
+std::string ccSettingsTitle(std::string_view identifier, TextLookup lookup) {
+    for (const CCSettingsTitle &known : kCCSettingsTitles)
+        if (known.identifier == identifier) return lookup(known.title);
+    return madeCCSettingsTitle(identifier);
+}
+
+std::string madeCCSettingsTitle(std::string_view identifier) {
     if (identifier == "dataRate") return "LTE";
     if (identifier == "killbackground") return "Kill Background";
     if (identifier == "VPN") return "VPN";
@@ -95,7 +135,7 @@ std::string ccSettingsTitle(std::string_view identifier) {
 }
 
 std::string ccSettingsIconName(std::string_view identifier) {
-    if (ccSettingsTitle(identifier) == "LTE") return "LTE";
+    if (madeCCSettingsTitle(identifier) == "LTE") return "LTE";
     return std::string(identifier);
 }
 

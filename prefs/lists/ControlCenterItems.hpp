@@ -9,6 +9,7 @@
 #include <string_view>
 #include <vector>
 
+#include "core/LocalText.hpp"
 #include "core/plist/Value.hpp"
 
 namespace tessarin::lists {
@@ -33,7 +34,7 @@ inline constexpr const char *kCCSettingsOrderFile = "/var/mobile/Library/Prefere
 /// A row of a fixed table: its title, stored identifier, image name and the
 /// bundle the image is taken from ("" for the one the layout names).
 struct CCTableRow {
-    std::string_view title;
+    LocalText title;
     std::string_view identifier;
     std::string_view image;
     std::string_view bundle;
@@ -69,18 +70,29 @@ bool isSkippedModule(std::string_view bundleName);
 /// The image a module's row shows, from the module bundle.
 std::string_view moduleImageName(std::string_view bundleName);
 
-/// A module row's title: "Screen Recording" for the screen-recording module;
-/// else the display name as it stands; else the bundle name with every
-/// "Module" removed; none when the bundle has neither.
+/// A module row's title: "Screen Recording" for the screen-recording module (in
+/// the language `lookup` gives); else the display name as it stands; else the
+/// bundle name with every "Module" removed; none when the bundle has neither.
+inline constexpr LocalText kScreenRecordingTitle{"CC_SCREEN_RECORDING", "Screen Recording"};
 std::optional<std::string> moduleTitle(std::string_view bundleName, const std::optional<std::string> &displayName,
-                                       const std::optional<std::string> &bundleDisplayName);
+                                       const std::optional<std::string> &bundleDisplayName,
+                                       TextLookup lookup = englishText);
 
 /// Every occurrence of `word` removed from `text`.
 std::string withoutWord(std::string_view text, std::string_view word);
 
 /// A CCSettings toggle's title: four fixed titles, otherwise a blank inserted
-/// before every upper-case letter and each word capitalised.
-std::string ccSettingsTitle(std::string_view identifier);
+/// before every upper-case letter and each word capitalised. The toggles of the
+/// fixed list have their titles in the language `lookup` gives (English
+/// without one); any other toggle keeps the English title made from its name.
+std::string ccSettingsTitle(std::string_view identifier, TextLookup lookup = englishText);
+struct CCSettingsTitle {
+    std::string_view identifier;
+    LocalText title;  ///< its English text is the title made from the identifier
+};
+extern const CCSettingsTitle kCCSettingsTitles[21];
+/// The English title made from the identifier alone.
+std::string madeCCSettingsTitle(std::string_view identifier);
 /// Word-by-word capitalisation (first letter of each blank-separated word upper
 /// case, the rest lower case), for ASCII letters.
 std::string capitalisedWords(std::string_view text);

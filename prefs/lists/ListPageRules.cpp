@@ -34,13 +34,19 @@ std::string rowItem(const std::optional<std::string> &identifier, std::string_vi
 
 bool listsToggle(std::string_view switchIdentifier) { return switchIdentifier != kSwitchIdentifier; }
 
-std::string faceIDText(std::string_view row, RowText property, std::string_view text) {
-    if (row == kCallerTopRow && property == RowText::Footer) return replaceAll(text, "Touch ID", "Face ID");
+std::string faceIDText(std::string_view row, RowText property, std::string_view text, TextLookup lookup) {
+    if (row == kCallerTopRow && property == RowText::Footer) {
+        const std::string touchID = lookup(kTouchIDName);
+        return touchID.empty() ? std::string(text) : replaceAll(text, touchID, lookup(kFaceIDName));
+    }
     // The resource text reads "lifting you finger"; the search keeps its missing "r".
-    if (row == kCallerFingerUpRow && property == RowText::Footer)
-        return replaceAll(text, "lifting you finger", "looking away");
+    if (row == kCallerFingerUpRow && property == RowText::Footer) {
+        const std::string phrase = lookup(kLiftFingerPhrase);
+        if (phrase.empty()) return std::string(text);
+        return replaceAll(text, phrase, lookup(kLookAwayPhrase));
+    }
     if (row == kCallerHideRow && (property == RowText::Label || property == RowText::Name))
-        return std::string(kHideCallerFaceIDTitle);
+        return lookup(kHideCallerFaceIDTitle);
     return std::string(text);
 }
 

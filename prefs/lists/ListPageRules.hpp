@@ -7,6 +7,8 @@
 #include <string>
 #include <string_view>
 
+#include "core/LocalText.hpp"
+
 namespace tessarin::lists {
 
 /// The Settings app's own list, as the settings-pane page mirrors it.
@@ -30,8 +32,18 @@ bool listsToggle(std::string_view switchIdentifier);
 inline constexpr std::string_view kCallerTopRow = "CALLERID_TOP";
 inline constexpr std::string_view kCallerFingerUpRow = "CALLERID_FINGER_UP";
 inline constexpr std::string_view kCallerHideRow = "CALLERID_HIDE_CALLER";
-inline constexpr std::string_view kHideCallerFaceIDTitle = "Hide Caller on look away";
+inline constexpr LocalText kHideCallerFaceIDTitle{"CALLERID_HIDE_CALLER_FACE_ID", "Hide Caller on look away"};
+/// The phrase of the finger-up footer that speaks of the finger, and what a Face ID
+/// device reads instead. Each language gives the phrase exactly as its footer has it
+/// (the English keeps the footer's missing "r").
+inline constexpr LocalText kLiftFingerPhrase{"CALLERID_LIFT_FINGER_PHRASE", "lifting you finger"};
+inline constexpr LocalText kLookAwayPhrase{"CALLERID_LOOK_AWAY_PHRASE", "looking away"};
+/// The system's names, as the user's language writes them (most keep the English).
+inline constexpr LocalText kTouchIDName{"TOUCH_ID", "Touch ID"};
+inline constexpr LocalText kFaceIDName{"FACE_ID", "Face ID"};
 enum class RowText { Footer, Label, Name };
-std::string faceIDText(std::string_view row, RowText property, std::string_view text);
+/// `text` is in the language `lookup` gives (English without one).
+std::string faceIDText(std::string_view row, RowText property, std::string_view text,
+                       TextLookup lookup = englishText);
 
 }  // namespace tessarin::lists

@@ -48,7 +48,7 @@ UIImage *imageIn(std::string_view name, NSBundle *bundle) {
     for (const lists::CCTableRow &item : lists::kClassicRows) {
       UIImage *glyph = imageIn(item.image, springBoard);
       if (glyph == nil) glyph = imageIn(item.image, controlCenterUI);
-      PSSpecifier *row = switchRow(nsString(item.title), self, @selector(setCCItemProtectEnabled:specifier:),
+      PSSpecifier *row = switchRow(localizedText(item.title), self, @selector(setCCItemProtectEnabled:specifier:),
                                        @selector(getCCItemProtectEnabledForSpecifier:));
       [row setProperty:nsString(item.identifier) forKey:@"id"];
       if (glyph != nil) {
@@ -70,7 +70,7 @@ UIImage *imageIn(std::string_view name, NSBundle *bundle) {
        settingsIcons ? lists::kConnectivitySettingsIconRows : lists::kConnectivityGlyphRows) {
     UIImage *image = imageIn(item.image, deviceBundle(item.bundle));
     if (!settingsIcons) image = [image imageWithRenderingMode:UIImageRenderingModeAlwaysTemplate];
-    PSSpecifier *row = [self newSpecifierWithName:nsString(item.title)
+    PSSpecifier *row = [self newSpecifierWithName:localizedText(item.title)
                                             andID:nsString(item.identifier)
                                          andImage:image];
     [rows addObject:row];
@@ -86,7 +86,7 @@ UIImage *imageIn(std::string_view name, NSBundle *bundle) {
     NSBundle *module = [NSBundle bundleWithPath:devicePath([NSString stringWithFormat:@"%@/%@", directory, entry])];
     NSDictionary *info = [module infoDictionary];
     std::optional<std::string> title = lists::moduleTitle(name, utf8String([info objectForKey:@"CFBundleDisplayName"]),
-                                                          utf8String([info objectForKey:@"CFBundleName"]));
+                                                          utf8String([info objectForKey:@"CFBundleName"]), localizedCoreText);
     PSSpecifier *row = [self newSpecifierWithName:title ? nsString(*title) : nil
                                             andID:[module bundleIdentifier]
                                          andImage:imageIn(lists::moduleImageName(name), module)];

@@ -41,7 +41,7 @@ NSArray *CCSettingsArray() {
   for (NSString *identifier in CCSettingsArray()) {
     const char *utf8 = [identifier UTF8String];
     if (utf8 == NULL) continue;
-    PSSpecifier *row = switchRow(nsString(lists::ccSettingsTitle(utf8)), self,
+    PSSpecifier *row = switchRow(nsString(lists::ccSettingsTitle(utf8, localizedCoreText)), self,
                                      @selector(setCCSettingsItemProtectEnabled:specifier:),
                                      @selector(getCCSettingsItemProtectEnabledForSpecifier:));
     [row setProperty:identifier forKey:@"id"];

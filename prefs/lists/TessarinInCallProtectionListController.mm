@@ -1,6 +1,7 @@
 #import "lists/TessarinInCallProtectionListController.h"
 #import "core/Strings.h"
 #import "core/Hardware.h"
+#import "core/BundleLookup.h"
 #include <string>
 #include "core/Names.hpp"
 #include "lists/ListPageRules.hpp"
@@ -11,7 +12,7 @@ NSString *const kLockScreenRow = @"SHOW_CALLS_AT_LOCKSCREEN_SYSTEM_SETTING";
 NSString *const kShowsInLockScreen = @"showsInLockScreen";
 
 NSString *adapted(NSString *row, tessarin::lists::RowText property, NSString *text) {
-  const std::string shown = tessarin::lists::faceIDText(stdString(row), property, stdString(text));
+  const std::string shown = tessarin::lists::faceIDText(stdString(row), property, stdString(text), localizedCoreText);
   NSString *result = [NSString stringWithUTF8String:shown.c_str()];
   return result != nil ? result : text;
 }

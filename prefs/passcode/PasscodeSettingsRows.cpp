@@ -2,57 +2,30 @@
 
 namespace tessarin::passcode {
 
-namespace {
-
-// The footers, split at their "%@". The texts are kept exactly as shown to
-// users, including "them main".
-constexpr std::string_view kRecoveryHead =
-    "In this page you can add a recovery passcode in cases where your BiometricID is "
-    "repeatedly not recognized. This passcode is different from your device passcode. "
-    "If you forgot your passcode, you can clear it using ";
-constexpr std::string_view kRecoveryTail = ". I forgot my passcode...";
-// The Face ID filler brings its own blank, so two blanks precede it.
-constexpr std::string_view kRecoveryFaceID = " FaceID";
-constexpr std::string_view kRecoveryTouchID = "TouchID";
-
-constexpr std::string_view kBiometricHead =
-    "In this page you can add a Tessarin passcode in cases where your ";
-constexpr std::string_view kBiometricTail =
-    " is repeatedly not recognized. This passcode is different from your device passcode.";
-constexpr std::string_view kBiometricFace = "face";
-constexpr std::string_view kBiometricFinger = "fingerprint";
-
-constexpr std::string_view kPlainFooter =
-    "In this page you can add them main Tessarin passcode. This passcode is different from "
-    "your device passcode.";
-
-constexpr std::size_t kLinkFromEnd = 24;
-constexpr std::size_t kLinkLength = 23;
-
-std::string joined(std::string_view a, std::string_view b, std::string_view c) {
-  std::string s;
-  s.reserve(a.size() + b.size() + c.size());
-  s.append(a.data(), a.size());
-  s.append(b.data(), b.size());
-  s.append(c.data(), c.size());
-  return s;
-}
-
-}  // namespace
-
-SettingsFooter settingsFooter(const SettingsContext &ctx) {
+SettingsFooter settingsFooter(const SettingsContext &ctx, TextLookup lookup) {
   SettingsFooter f;
   if (ctx.passcodeStored && ctx.biometric) {
-    f.text = joined(kRecoveryHead, ctx.faceID ? kRecoveryFaceID : kRecoveryTouchID, kRecoveryTail);
+    const std::string link = lookup(kForgotPasscodeLink);
+    f.text = lookup(ctx.faceID ? kRecoveryFaceIDFooter : kRecoveryTouchIDFooter) + " " + link;
     f.hasLink = true;
-    f.linkLocation = f.text.size() - kLinkFromEnd;
-    f.linkLength = kLinkLength;
+    const std::size_t linkUnits = utf16Length(link);
+    f.linkLocation = utf16Length(f.text) - linkUnits - 1;
+    f.linkLength = linkUnits;
   } else if (ctx.biometric) {
-    f.text = joined(kBiometricHead, ctx.faceID ? kBiometricFace : kBiometricFinger, kBiometricTail);
+    f.text = lookup(ctx.faceID ? kFaceFooter : kFingerprintFooter);
   } else {
-    f.text.assign(kPlainFooter.data(), kPlainFooter.size());
+    f.text = lookup(kPlainFooter);
   }
   return f;
+}
+
+std::size_t utf16Length(std::string_view utf8) {
+  std::size_t units = 0;
+  for (unsigned char c : utf8) {
+    if ((c & 0xC0) == 0x80) continue;  // continuation byte
+    units += c >= 0xF0 ? 2 : 1;        // four-byte sequences are surrogate pairs
+  }
+  return units;
 }
 
 std::string_view actionSelector(RowAction action) {

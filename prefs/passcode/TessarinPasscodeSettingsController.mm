@@ -41,7 +41,7 @@ void resetPasscode(CFNotificationCenterRef center, void *observer, CFStringRef n
   context.faceID = hasPearl();
 
   NSMutableArray *rows = [NSMutableArray array];
-  passcode::SettingsFooter footer = settingsFooter(context);
+  passcode::SettingsFooter footer = settingsFooter(context, localizedCoreText);
   NSString *footerText = nsStringOrEmpty(footer.text);
   PSSpecifier *group = footerGroup(footerText);
   if (footer.hasLink) {
@@ -74,7 +74,7 @@ void resetPasscode(CFNotificationCenterRef center, void *observer, CFStringRef n
       [row setButtonAction:NSSelectorFromString(nsStringOrEmpty(actionSelector(kept.action)))];
     }
     if (kept.renameForFaceID) {
-      NSString *name = nsStringOrEmpty(std::string_view(passcode::kUseOnlyFaceIDName));
+      NSString *name = localizedText(passcode::kUseOnlyFaceIDName);
       [row setProperty:name forKey:@"label"];
       [row setProperty:name forKey:@"name"];
       [row setName:name];

@@ -16,18 +16,14 @@ std::string versionText(std::uint32_t libraryVersion) {
 
 Rect header::headerFrame(double viewWidth) { return {0, 0, viewWidth, kHeaderHeight}; }
 
-Rect header::versionLabelFrame(double viewWidth) { return {0, 0, viewWidth - kLabelWidthInset, kLabelHeight}; }
+Rect header::versionLabelFrame(double viewWidth, bool rightToLeft) {
+  return {rightToLeft ? kLabelWidthInset : 0, 0, viewWidth - kLabelWidthInset, kLabelHeight};
+}
 
 namespace {
 
-std::string text(std::string_view view) { return std::string(view); }
-
-Alert okayNotice(std::string_view title, std::string_view message) {
-  return {text(title), text(message), {{text(kOkayTitle), ActionStyle::Cancel, Effect::Nothing}}};
-}
-
-std::string_view orDefault(std::string_view localised, std::string_view fallback) {
-  return localised.empty() ? fallback : localised;
+Alert okayNotice(LocalText title, LocalText message) {
+  return {title, message, {{kOkayTitle, ActionStyle::Cancel, Effect::Nothing}}};
 }
 
 }  // namespace
@@ -38,20 +34,16 @@ std::optional<Alert> firstRunPrompt(const FirstRunFacts &facts) {
   if (!facts.idsnReplied || !facts.appsPresent || facts.idsnValue >= 1 || facts.productPasscodeStored)
     return std::nullopt;
 
-  Alert prompt{text(kAlertTitle), {}, {}};
-  const AlertButton setPasscode{text(kSetPasscodeTitle), ActionStyle::Default, Effect::PushPasscodeSettings};
-  const AlertButton no{text(orDefault(facts.noText, kNoDefault)), ActionStyle::Cancel, Effect::Nothing};
+  Alert prompt{kAlertTitle, {}, {}};
+  const AlertButton setPasscode{kSetPasscodeTitle, ActionStyle::Default, Effect::PushPasscodeSettings};
+  const AlertButton no{kNo, ActionStyle::Cancel, Effect::Nothing};
 
   if (facts.biometricSensor) {
-    const std::string_view missing = facts.faceID ? "Face ID" : "any fingerprints";
-    const std::string_view needed =
-        facts.faceID ? "FaceID or a Tessarin passcode" : "at least one fingerprint or a Tessarin passcode";
-    prompt.message = "You do not have " + text(missing) + " set. To enable this application, you must have " +
-                     text(needed) + " set. Would you like to setup one now?";
-    const std::string setup = std::string("Setup ") + (facts.faceID ? "Face ID" : "Touch ID");
+    prompt.message = facts.faceID ? kNoFaceIdSet : kNoFingerprintSet;
+    const LocalText setup = facts.faceID ? kSetupFaceId : kSetupTouchId;
     prompt.buttons = {{setup, ActionStyle::Default, Effect::SetUpDeviceAuthentication}, setPasscode, no};
   } else {
-    prompt.message = text(orDefault(facts.noPasscodeSetText, kNoPasscodeSetDefault));
+    prompt.message = kNoPasscodeSet;
     prompt.buttons = {setPasscode, no};
   }
   return prompt;
@@ -95,13 +87,13 @@ SetupDecision setupDecision(const SetupFacts &facts, SetupOrigin origin) {
 }
 
 Alert resetQuestionAlert() {
-  return {text(kAlertTitle),
-          text(kResetQuestion),
-          {{"Cancel", ActionStyle::Cancel, Effect::Nothing}, {"Reset", ActionStyle::Default, Effect::ResetAllSettings}}};
+  return {kAlertTitle,
+          kResetQuestion,
+          {{kCancelTitle, ActionStyle::Cancel, Effect::Nothing}, {kResetTitle, ActionStyle::Default, Effect::ResetAllSettings}}};
 }
 
 Alert resetDoneAlert() {
-  return {text(kAlertTitle), text(kResetDone), {{"OK", ActionStyle::Cancel, Effect::LeaveProductSettings}}};
+  return {kAlertTitle, kResetDone, {{kOkTitle, ActionStyle::Cancel, Effect::LeaveProductSettings}}};
 }
 
 Effect alertViewButtonEffect(bool biometricSensor, long long buttonIndex) {

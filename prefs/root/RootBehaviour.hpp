@@ -2,7 +2,8 @@
 // first-run prompt, the device-authentication setup, the reset-all flow and
 // the old alert-view buttons. Each decision comes back as plain data: an
 // alert to show (title, message, buttons with what each one does) or the
-// page to show. Every string_view constant is backed by a string literal.
+// page to show. Every string_view constant is backed by a string literal; the
+// texts of an alert are LocalTexts, which the page shows in the user's language.
 #pragma once
 
 #include <cstdint>
@@ -29,12 +30,16 @@ inline constexpr double kHeaderHeight = 22;
 inline constexpr double kLabelHeight = 17;
 inline constexpr double kLabelWidthInset = 6;
 inline constexpr double kFontSize = 12;
+/// The label stands at the header's trailing edge: on the right, and on the left in a
+/// right-to-left language (mirrored with its inset).
 inline constexpr int kAlignment = kTextAlignmentRight;
+inline constexpr int kRightToLeftAlignment = kTextAlignmentLeft;
+inline constexpr int alignment(bool rightToLeft) { return rightToLeft ? kRightToLeftAlignment : kAlignment; }
 inline constexpr Rgba kText = kLightGrey;
 inline constexpr bool kClipsToBounds = false;
 /// Laid out again with the page view's width on each viewDidLayoutSubviews.
 Rect headerFrame(double viewWidth);
-Rect versionLabelFrame(double viewWidth);
+Rect versionLabelFrame(double viewWidth, bool rightToLeft = false);
 }  // namespace header
 
 // ---------------------------------------------------------------------------
@@ -61,18 +66,19 @@ enum class Effect {
 };
 
 struct AlertButton {
-  std::string title;
+  LocalText title;
   ActionStyle style;
   Effect effect;
 };
 
 struct Alert {
-  std::string title;
-  std::string message;
+  LocalText title;
+  LocalText message;
   std::vector<AlertButton> buttons;  ///< in the order they are added
 };
 
-inline constexpr std::string_view kAlertTitle = "Tessarin";
+/// The product's name, the same in every language.
+inline constexpr LocalText kAlertTitle{"", "Tessarin"};
 inline constexpr std::string_view kPasscodeSettingsControllerClass = "TessarinPasscodeSettingsController";
 
 /// SpringBoard did not answer the second library-version request.
@@ -81,13 +87,27 @@ Alert noSpringBoardAlert();
 // ---------------------------------------------------------------------------
 // First-run prompt.
 
-inline constexpr std::string_view kNoPasscodeSetKey = "NO_TESSARIN_PASSCODE_SET";
-inline constexpr std::string_view kNoPasscodeSetDefault =
+inline constexpr LocalText kNoPasscodeSet{
+    "NO_TESSARIN_PASSCODE_SET",
     "You haven't set a Tessarin passcode yet. To enable this application, you must have a Tessarin passcode "
-    "set. Would you like to setup one now?";
-inline constexpr std::string_view kNoKey = "NO";
-inline constexpr std::string_view kNoDefault = "No";
-inline constexpr std::string_view kSetPasscodeTitle = "Set Tessarin Passcode";
+    "set. Would you like to setup one now?"};
+/// With a biometric sensor the message names what is missing. Written out whole,
+/// one sentence per device, so that each language can word it as a sentence; the
+/// English reads as "You do not have %@ set. To enable this application, you must
+/// have %@ set. Would you like to setup one now?" filled for each device.
+inline constexpr LocalText kNoFaceIdSet{
+    "NO_FACE_ID_SET",
+    "You do not have Face ID set. To enable this application, you must have FaceID or a Tessarin passcode set. "
+    "Would you like to setup one now?"};
+inline constexpr LocalText kNoFingerprintSet{
+    "NO_FINGERPRINT_SET",
+    "You do not have any fingerprints set. To enable this application, you must have at least one fingerprint or "
+    "a Tessarin passcode set. Would you like to setup one now?"};
+/// "Setup %@" with "Face ID" or "Touch ID".
+inline constexpr LocalText kSetupFaceId{"SETUP_FACE_ID", "Setup Face ID"};
+inline constexpr LocalText kSetupTouchId{"SETUP_TOUCH_ID", "Setup Touch ID"};
+inline constexpr LocalText kNo{"NO", "No"};
+inline constexpr LocalText kSetPasscodeTitle{"SET_TESSARIN_PASSCODE", "Set Tessarin Passcode"};
 
 struct FirstRunFacts {
   bool idsnReplied = false;            ///< the "idsn" request got a reply
@@ -96,10 +116,6 @@ struct FirstRunFacts {
   bool productPasscodeStored = false;  ///< the "passcode" preference is present
   bool biometricSensor = false;        ///< iPhone64Bit
   bool faceID = false;                 ///< hasPearl
-  /// The bundle's localised texts for kNoPasscodeSetKey and kNoKey; empty
-  /// means the English default.
-  std::string_view noPasscodeSetText;
-  std::string_view noText;
 };
 
 /// The prompt sending the user to set up biometrics or the product passcode;
@@ -119,16 +135,18 @@ inline constexpr std::string_view kUserPasscodeControllerClass = "TessarinUserPa
 inline constexpr std::string_view kUserComplexPasscodeControllerClass = "TessarinUserComplexPasscodeController";
 inline constexpr std::string_view kUITouchIdPasscodeControllerClass = "PSUITouchIDPasscodeController";
 
-inline constexpr std::string_view kIOS16Notice =
+inline constexpr LocalText kIOS16Notice{
+    "IOS16_NOTICE",
     "You are jailbroken on iOS 16.x\nIn this case, a passcode is not allowed by default, so in order to use Face "
     "ID, you need to use a tweak that enables passcode and Face ID first, such as checkL0ck. Follow the tweak's "
-    "instructions to add a passcode and Face ID first, then you can use Tessarin with Face ID.";
-inline constexpr std::string_view kLoaderNotice =
+    "instructions to add a passcode and Face ID first, then you can use Tessarin with Face ID."};
+inline constexpr LocalText kLoaderNotice{
+    "LOADER_NOTICE",
     "Checkr4in jailbreak detected on iOS 14.x!\nIn this case, a passcode is not allowed so in order to use Face "
     "ID/Touch ID, you need to add a fingerprint or Face ID first, then attempt to add a passcode and let the phone "
     "crash and reboot. Then the biometrics will have been added but the passcode will still be empty, allowing the "
-    "jailbreak to function.";
-inline constexpr std::string_view kOkayTitle = "Okay";
+    "jailbreak to function."};
+inline constexpr LocalText kOkayTitle{"OKAY", "Okay"};
 
 struct SetupFacts {
   bool faceID = false;
@@ -165,10 +183,14 @@ std::string_view userPasscodeControllerClass(const PasscodeCharacteristics &char
 // ---------------------------------------------------------------------------
 // Reset all.
 
-inline constexpr std::string_view kResetQuestion =
+inline constexpr LocalText kResetQuestion{
+    "RESET_QUESTION",
     "This will reset all settings to defaults, including any apps or toggles that you have set as protected. "
-    "Do you want to continue?";
-inline constexpr std::string_view kResetDone = "All Tessarin settings have been reset to defaults.";
+    "Do you want to continue?"};
+inline constexpr LocalText kResetDone{"RESET_DONE", "All Tessarin settings have been reset to defaults."};
+inline constexpr LocalText kCancelTitle{"CANCEL", "Cancel"};
+inline constexpr LocalText kResetTitle{"RESET", "Reset"};
+inline constexpr LocalText kOkTitle{"OK", "OK"};
 
 /// "Cancel" (does nothing) and "Reset" (Effect::ResetAllSettings).
 Alert resetQuestionAlert();

@@ -4,7 +4,7 @@
 
 namespace tessarin::root {
 
-std::optional<std::string_view> singleGroupFooter(std::uint32_t libraryVersion, bool supportedSystem) {
+std::optional<LocalText> singleGroupFooter(std::uint32_t libraryVersion, bool supportedSystem) {
   if (libraryVersion == 0) return kLibraryMissingFooter;
   if (!supportedSystem) return kUnsupportedSystemFooter;
   return std::nullopt;

@@ -5,6 +5,8 @@
 // The page gathers facts from the platform into the structs below, asks
 // `planRootRows`, and applies the plan to its PSSpecifier rows. Every string
 // constant here is backed by a string literal, so `.data()` is NUL-terminated.
+// Texts the user reads are LocalTexts: their key in the bundle's table and their
+// English text.
 #pragma once
 
 #include <array>
@@ -16,6 +18,7 @@
 #include <vector>
 
 #include "core/FunctionRef.hpp"
+#include "core/LocalText.hpp"
 #include "core/SystemVersion.hpp"
 
 namespace tessarin::root {
@@ -50,28 +53,32 @@ inline constexpr int kStaticTextCellType = 4;
 // ---------------------------------------------------------------------------
 // Early exits: the page is a single group with one of these footers.
 
-inline constexpr std::string_view kLibraryMissingFooter =
+inline constexpr LocalText kLibraryMissingFooter{
+    "LIBRARY_MISSING",
     "SpringBoard library is not correctly installed or not correctly loaded. If you can see this, "
     "this tweak can load correctly in settings but not in SpringBoard. Re-install or check our "
-    "jailbreak settings.";
+    "jailbreak settings."};
 /// Names iOS 16 although iOS 17 is accepted as well.
-inline constexpr std::string_view kUnsupportedSystemFooter = "This app is optimized only for iOS 12 to iOS 16.";
+inline constexpr LocalText kUnsupportedSystemFooter{"UNSUPPORTED_SYSTEM",
+                                                    "This app is optimized only for iOS 12 to iOS 16."};
 
 /// The footer of the single-group page, or nothing when the full page is built.
 /// `libraryVersion` is the cached SpringBoard library version after asking for
 /// it; `supportedSystem` is the answer of the system-version check.
-std::optional<std::string_view> singleGroupFooter(std::uint32_t libraryVersion, bool supportedSystem);
+std::optional<LocalText> singleGroupFooter(std::uint32_t libraryVersion, bool supportedSystem);
 
 // ---------------------------------------------------------------------------
 // SpringBoard did not answer the second library-version request: the rows are
 // built all the same, but this alert (alert style, one cancel-style action
 // that does nothing) is shown and the emergency flag is set.
 
-inline constexpr std::string_view kNoSpringBoardTitle = "Tessarin Nova";
-inline constexpr std::string_view kNoSpringBoardMessage =
+/// The title is the product's name, the same in every language.
+inline constexpr LocalText kNoSpringBoardTitle{"", "Tessarin Nova"};
+inline constexpr LocalText kNoSpringBoardMessage{
+    "NO_SPRINGBOARD",
     "WARNING! Tessarin Nova cannot communicate with SpringBoard. Your device may be in safe mode or "
-    "the Tessarin library is missing. Try to respring or to re-install Tessarin and mobilesubstrate";
-inline constexpr std::string_view kNoSpringBoardAction = "Okay";
+    "the Tessarin library is missing. Try to respring or to re-install Tessarin and mobilesubstrate"};
+inline constexpr LocalText kNoSpringBoardAction{"OKAY", "Okay"};
 
 // ---------------------------------------------------------------------------
 // Passcode state.
@@ -83,16 +90,17 @@ bool biometricsSet(std::optional<long long> idsnValue);
 // ---------------------------------------------------------------------------
 // The status warning row.
 
-inline constexpr std::string_view kGraceWarningText =
-    "Tessarin is disabled.\n(You have authenticated once after unlock \nand you use \"Grace Period\")";
-inline constexpr std::string_view kTrustedWarningText =
-    "Tessarin is disabled.\n(You are connected to a Trusted WiFi Network)";
+inline constexpr LocalText kGraceWarningText{
+    "GRACE_PERIOD_WARNING",
+    "Tessarin is disabled.\n(You have authenticated once after unlock \nand you use \"Grace Period\")"};
+inline constexpr LocalText kTrustedWarningText{"TRUSTED_NETWORK_WARNING",
+                                               "Tessarin is disabled.\n(You are connected to a Trusted WiFi Network)"};
 inline constexpr double kGraceWarningHeight = 70;
 inline constexpr double kTrustedWarningHeight = 45;
 inline constexpr std::string_view kWarningCellClass = "TessarinTrustedWiFiWarningCell";
 
 struct WarningRow {
-  std::string_view title;
+  LocalText title;
   double height;
 };
 
@@ -194,8 +202,9 @@ struct PasscodeCharacteristics {
 /// else on the complex one.
 bool isSimplePasscode(const PasscodeCharacteristics &characteristics);
 
-inline constexpr std::string_view kFaceIdRowName = "Face ID & Passcode";
-inline constexpr std::string_view kTouchIdRowName = "Touch ID";
+/// The system's own page names, in the system's wording.
+inline constexpr LocalText kFaceIdRowName{"FACE_ID_PASSCODE", "Face ID & Passcode"};
+inline constexpr LocalText kTouchIdRowName{"TOUCH_ID", "Touch ID"};
 inline constexpr std::string_view kPearlPasscodeControllerClass = "PSUIPearlPasscodeController";
 inline constexpr std::string_view kTouchIdPasscodeControllerClass = "PSTouchIDPasscodeController";
 inline constexpr std::string_view kMesaSettingsControllerClass = "PSMesaSettingsController";
@@ -203,7 +212,7 @@ inline constexpr std::string_view kLoadUserPasswordAction = "loadUserPasswordCon
 inline constexpr std::string_view kLoadUserComplexPasswordAction = "loadUserComplexPasswordController";
 
 struct DeviceAuthRow {
-  std::string_view name;
+  LocalText name;
   /// Exactly one of these is set: the system's own page as the row's detail
   /// class (the device has no passcode), or the page's action that loads the
   /// device-passcode check (target: the page).
@@ -225,11 +234,11 @@ std::optional<DeviceAuthRow> deviceAuthRow(const DeviceFacts &device,
 // The credits block at the bottom: an empty group, the credits row, and the
 // "more apps" group whose footer view opens the maker's catalogue.
 
-inline constexpr std::string_view kCreditsText = "Tessarin by Corvane";
+inline constexpr LocalText kCreditsText{"CREDITS", "Tessarin by Corvane"};
 inline constexpr std::string_view kCreditsCellClass = "TessarinCreditsCell";
 inline constexpr int kCreditsCellType = kStaticTextCellType;
 inline constexpr int kCreditsAlignment = 2;
-inline constexpr std::string_view kMoreAppsFooter = "More apps by Corvane";
+inline constexpr LocalText kMoreAppsFooter{"MORE_APPS", "More apps by Corvane"};
 inline constexpr std::string_view kMoreAppsAction = "infoTapped:";
 inline constexpr std::string_view kMoreAppsFooterCellClass = "TessarinLabelView";
 inline constexpr double kMoreAppsHeight = 50;

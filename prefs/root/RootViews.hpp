@@ -13,6 +13,7 @@ using tessarin::Rect;
 using tessarin::Rgba;
 
 /// Text alignment values of the platform's label (NSTextAlignment on iOS).
+inline constexpr int kTextAlignmentLeft = 0;
 inline constexpr int kTextAlignmentCenter = 1;
 inline constexpr int kTextAlignmentRight = 2;
 

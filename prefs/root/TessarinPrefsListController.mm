@@ -7,6 +7,7 @@
 #import "core/BundleLookup.h"
 #import "core/Endpoints.h"
 #import "core/Hardware.h"
+#import "core/LayoutDirection.h"
 #import "core/Paths.h"
 #import "core/PreferenceStore.h"
 #import "core/VersionFlags.h"
@@ -188,10 +189,10 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
     cachedLibraryVersion = (uint32_t)version.value_or(0);
   }
   const bool supported = tessarin::isSupportedSystem(stdString(systemVersionString()));
-  std::optional<std::string_view> footer = root::singleGroupFooter(cachedLibraryVersion, supported);
+  std::optional<tessarin::LocalText> footer = root::singleGroupFooter(cachedLibraryVersion, supported);
   if (!footer) return nil;
   PSSpecifier *group = [PSSpecifier groupSpecifierWithName:nil];
-  [group setProperty:nsString(*footer) forKey:@"footerText"];
+  [group setProperty:localizedText(*footer) forKey:@"footerText"];
   return group;
 }
 
@@ -212,6 +213,7 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
     NSString *identifier = [specifier identifier];
     if (identifier != nil && bundle != nil)
       [specifier setName:[bundle localizedStringForKey:identifier value:[specifier name] table:nil]];
+    localizeSubtitle(specifier, nsString(root::kRowsPlistName));
   }
   return loaded;
 }
@@ -272,7 +274,7 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
 
 // The status row: protection is off for the grace period or on a trusted network.
 - (PSSpecifier *)warningRow:(const root::WarningRow &)warning {
-  PSSpecifier *row = [PSSpecifier preferenceSpecifierNamed:nsString(warning.title)
+  PSSpecifier *row = [PSSpecifier preferenceSpecifierNamed:localizedText(warning.title)
                                                     target:self
                                                        set:NULL
                                                        get:NULL
@@ -288,7 +290,7 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
 // Face ID or Touch ID settings: the system's own page, or first the device passcode check.
 - (PSSpecifier *)deviceAuthenticationRow:(const root::DeviceAuthRow &)auth {
   Class detail = auth.detailClass.empty() ? Nil : NSClassFromString(nsString(auth.detailClass));
-  PSSpecifier *row = [PSSpecifier preferenceSpecifierNamed:nsString(auth.name)
+  PSSpecifier *row = [PSSpecifier preferenceSpecifierNamed:localizedText(auth.name)
                                                     target:self
                                                        set:NULL
                                                        get:NULL
@@ -300,7 +302,7 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
 }
 
 - (PSSpecifier *)creditsRow {
-  PSSpecifier *row = [PSSpecifier preferenceSpecifierNamed:nsString(root::kCreditsText)
+  PSSpecifier *row = [PSSpecifier preferenceSpecifierNamed:localizedText(root::kCreditsText)
                                                     target:self
                                                        set:NULL
                                                        get:NULL
@@ -314,13 +316,13 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
 
 // The group whose footer view opens the maker's catalogue.
 - (PSSpecifier *)moreAppsGroup {
-  PSSpecifier *group = footerGroup(nsString(root::kMoreAppsFooter));
+  PSSpecifier *group = footerGroup(localizedText(root::kMoreAppsFooter));
   [group setTarget:self];
   [group setButtonAction:NSSelectorFromString(nsString(root::kMoreAppsAction))];
   [group setProperty:nsString(root::kMoreAppsFooterCellClass) forKey:@"footerCellClass"];
   [group setProperty:@(root::kMoreAppsHeight) forKey:@"height"];
   // The footer view shows this text.
-  [group setProperty:nsString(root::kMoreAppsFooter) forKey:nsString(tessarin::root::label_view::kTextProperty)];
+  [group setProperty:localizedText(root::kMoreAppsFooter) forKey:nsString(tessarin::root::label_view::kTextProperty)];
   return group;
 }
 
@@ -338,10 +340,6 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
   NSDictionary *appsReply = askSpringBoard(tessarin::message::kApplications);
   [self setInstalledApps:[appsReply objectForKey:@"apps"]];
 
-  NSString *noPasscodeSet = localizedString(nsString(root::kNoPasscodeSetKey), nsString(root::kNoPasscodeSetDefault));
-  NSString *no = localizedString(nsString(root::kNoKey), nsString(root::kNoDefault));
-  const std::string noPasscodeSetText = stdString(noPasscodeSet);
-  const std::string noText = stdString(no);
   root::FirstRunFacts facts;
   facts.idsnReplied = idsnReply != nil;
   facts.idsnValue = integerEntry(idsnReply, @"idsn").value_or(0);
@@ -349,20 +347,18 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
   facts.productPasscodeStored = productPasscodeStored();
   facts.biometricSensor = iPhone64Bit();
   facts.faceID = hasPearl();
-  facts.noPasscodeSetText = noPasscodeSetText;
-  facts.noText = noText;
   if (std::optional<root::Alert> prompt = firstRunPrompt(facts)) [self showAlert:*prompt from:self];
 
   const CGFloat width = [[self view] frame].size.width;
   const root::Rect headerFrame = root::header::headerFrame(width);
-  const root::Rect labelFrame = root::header::versionLabelFrame(width);
+  const root::Rect labelFrame = root::header::versionLabelFrame(width, isRightToLeft([self view]));
   UIView *headerView =
       [[UIView alloc] initWithFrame:cgRect(headerFrame)];
   [headerView setClipsToBounds:root::header::kClipsToBounds];
   UILabel *label =
       [[UILabel alloc] initWithFrame:cgRect(labelFrame)];
   [label setFont:[UIFont systemFontOfSize:root::header::kFontSize]];
-  [label setTextAlignment:(NSTextAlignment)root::header::kAlignment];
+  [label setTextAlignment:(NSTextAlignment)root::header::alignment(isRightToLeft([self view]))];
   [label setTextColor:[UIColor lightGrayColor]];
   const std::string version = root::versionText(cachedLibraryVersion);
   if (!version.empty()) [label setText:nsString(version)];
@@ -376,7 +372,7 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
 
 - (void)viewDidLayoutSubviews {
   [super viewDidLayoutSubviews];
-  const root::Rect frame = root::header::versionLabelFrame([[self view] frame].size.width);
+  const root::Rect frame = root::header::versionLabelFrame([[self view] frame].size.width, isRightToLeft([self view]));
   [_versionLabel setFrame:cgRect(frame)];
 }
 
@@ -427,10 +423,10 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
     }
     UIAlertActionStyle style =
         button.style == root::ActionStyle::Cancel ? UIAlertActionStyleCancel : UIAlertActionStyleDefault;
-    [actions addObject:[UIAlertAction actionWithTitle:nsString(button.title) style:style handler:handler]];
+    [actions addObject:[UIAlertAction actionWithTitle:localizedText(button.title) style:style handler:handler]];
   }
   showAlertWithTitleAndMessageAndAlertActionsFromViewControllerWithStyle(
-      nsString(alert.title), nsString(alert.message), actions, presenter, UIAlertControllerStyleAlert);
+      localizedText(alert.title), localizedText(alert.message), actions, presenter, UIAlertControllerStyleAlert);
 }
 
 - (void)performEffect:(root::Effect)effect {

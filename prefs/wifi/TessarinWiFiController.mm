@@ -2,6 +2,7 @@
 #import "core/Strings.h"
 #import "core/Alerts.h"
 #import "core/BundleLookup.h"
+#import "core/LayoutDirection.h"
 #import "core/PlistBridge.h"
 #import "core/PreferenceStore.h"
 #import "core/Specifiers.h"
@@ -128,9 +129,12 @@ id knownNetworkRecords(void) {
   const CGFloat screenWidth = [UIScreen mainScreen].bounds.size.width;
   self.textLabel.frame = CGRectMake(name.origin.x, name.origin.y - 5, name.size.width, name.size.height);
   self.detailTextLabel.text = [NSString stringWithFormat:localizedString(@"WIFI_PASSWORD_LINE", @"Pass: %@"), password];
-  self.detailTextLabel.frame = CGRectMake(name.origin.x, name.origin.y - 7 + name.size.height, screenWidth - 100,
-                                          name.size.height - 5);
-  self.detailTextLabel.textAlignment = NSTextAlignmentLeft;
+  // The password line starts where the name starts: at its left, or at its right in a right-to-left language.
+  const BOOL rtl = isRightToLeft(self);
+  const CGFloat lineWidth = screenWidth - 100;
+  self.detailTextLabel.frame = CGRectMake(rtl ? CGRectGetMaxX(name) - lineWidth : name.origin.x,
+                                          name.origin.y - 7 + name.size.height, lineWidth, name.size.height - 5);
+  self.detailTextLabel.textAlignment = rtl ? NSTextAlignmentRight : NSTextAlignmentLeft;
   self.detailTextLabel.font = [UIFont systemFontOfSize:12];
 }
 

@@ -18,13 +18,6 @@ SystemVersionFlags withoutIOS11(const char *version) {
   return f;
 }
 
-void expectFrame(const Frame &f, double x, double y, double w, double h, const char *what) {
-  EXPECT_DOUBLE_EQ(f.x, x) << what;
-  EXPECT_DOUBLE_EQ(f.y, y) << what;
-  EXPECT_DOUBLE_EQ(f.width, w) << what;
-  EXPECT_DOUBLE_EQ(f.height, h) << what;
-}
-
 }  // namespace
 
 TEST(ButtonRules, TapsChooseByColumnAndTheLeftEdgeChoosesNothing) {
@@ -50,20 +43,6 @@ TEST(ButtonRules, TapsChooseByColumnAndTheLeftEdgeChoosesNothing) {
   }
 }
 
-TEST(ButtonRules, StoredValueSelectsOneRowOnly) {
-  const struct {
-    int64_t stored;
-    std::optional<int> button, glyph;
-  } cases[] = {
-      {-1, std::nullopt, std::nullopt}, {0, 0, std::nullopt}, {1, 1, std::nullopt}, {2, 2, std::nullopt},
-      {3, std::nullopt, 0},             {4, std::nullopt, 1}, {5, std::nullopt, 2}, {6, std::nullopt, std::nullopt},
-  };
-  for (const auto &c : cases) {
-    EXPECT_EQ(chosenButton(c.stored), c.button) << c.stored;
-    EXPECT_EQ(chosenGlyph(c.stored), c.glyph) << c.stored;
-  }
-}
-
 TEST(ButtonRules, GlyphStatesFollowTheSystemFlags) {
   const struct {
     const char *name;
@@ -85,32 +64,6 @@ TEST(ButtonRules, GlyphStatesFollowTheSystemFlags) {
     EXPECT_EQ(glyph::tapChain(c.flags), c.chain) << c.name;
     EXPECT_EQ(glyph::reappliesPaletteBeforeLastStep(c.flags), c.reapplies) << c.name;
   }
-}
-
-TEST(ButtonRules, SampleGlyphLooksPerSystemFlag) {
-  const SystemVersionFlags modern = flagsFor("Version 15.0 (Build 19A346)");
-  const SystemVersionFlags old = withoutIOS11("Version 10.3 (Build 14E277)");
-  const struct {
-    const char *name;
-    int glyph;
-    SystemVersionFlags flags;
-    int style, palette;
-    std::string_view primary, secondary;
-  } cases[] = {
-      {"black", 0, modern, 0, 3, "", ""},          {"blue", 1, modern, 0, 2, "", ""},
-      {"red", 2, modern, 0, 1, "", ""},            {"old black", 0, old, 1, 0, "", ""},
-      {"old blue", 1, old, 1, 0, "305a94", "8a9bb1"}, {"old red", 2, old, 0, 0, "", ""},
-  };
-  for (const auto &c : cases) {
-    glyph::Look l = glyph::look(c.glyph, c.flags);
-    EXPECT_EQ(l.style, c.style) << c.name;
-    EXPECT_EQ(l.paletteStyle, c.palette) << c.name;
-    EXPECT_EQ(l.primaryHex, c.primary) << c.name;
-    EXPECT_EQ(l.secondaryHex, c.secondary) << c.name;
-  }
-  // The hooks keep each sample in the palette it was made with on modern systems.
-  for (int g = 0; g < 3; ++g) EXPECT_EQ(glyph::hookPaletteStyle(g), glyph::look(g, modern).paletteStyle) << g;
-  EXPECT_EQ(glyph::hookPaletteStyle(3), 0);
 }
 
 TEST(ButtonRules, HexColoursReadAsTheScannerReadsThem) {
@@ -141,21 +94,4 @@ TEST(ButtonRules, HexColoursReadAsTheScannerReadsThem) {
     EXPECT_DOUBLE_EQ(rgb.green, c.g) << c.text;
     EXPECT_DOUBLE_EQ(rgb.blue, c.b) << c.text;
   }
-}
-
-TEST(ButtonRules, ButtonAndGlyphMeasures) {
-  expectFrame(containerFrame(375), 27.5, 0, 320, 96, "container on a 375-point row");
-  expectFrame(containerFrame(320), 0, 0, 320, 96, "container on a 320-point row");
-  expectFrame(button::thirdFrame(0), 0, 0, 96, 96, "left third");
-  expectFrame(button::thirdFrame(1), 106, 0, 96, 96, "middle third");
-  expectFrame(button::thirdFrame(2), 212, 0, 96, 96, "right third");
-  expectFrame(button::kInThird, 18, 13, 70, 70, "button in its third");
-  expectFrame(glyph::frameInThird(125), 31.5, 17, 63, 63, "glyph on a 375-point row");
-  expectFrame(glyph::thirdFrame(2, 125), 250, 0, 96, 96, "right glyph third");
-  EXPECT_EQ(button::thumbImage(true), "thumb-black");
-  EXPECT_EQ(button::thumbImage(false), "thumb-white");
-  EXPECT_FLOAT_EQ(button::kRingRotation.to, static_cast<float>(2 * M_PI));
-  // The strip and the red print move by the same amount in opposite directions.
-  EXPECT_EQ(button::kStripSweep.to, -button::kRedPrintSweep.to);
-  EXPECT_EQ(button::kStripSweep.to, -button::kGhost.y);
 }

@@ -64,6 +64,27 @@ TEST(ListPageRules, FaceIDTextsReplaceExactlyWhatTheyName) {
     for (const Case &c : cases) EXPECT_EQ(lists::faceIDText(c.row, c.property, c.text), c.expected) << c.row;
 }
 
+// On a Face ID device the finger phrase is searched for as the user's language words it.
+TEST(ListPageRules, FaceIDTextsFollowTheLanguage) {
+    const TextLookup german = [](const LocalText &text) -> std::string {
+        if (text.key == lists::kLiftFingerPhrase.key) return "beim Anheben des Fingers";
+        if (text.key == lists::kLookAwayPhrase.key) return "beim Wegsehen";
+        if (text.key == lists::kHideCallerFaceIDTitle.key) return "Anrufer beim Wegsehen ausblenden";
+        return std::string(text.english);
+    };
+    using lists::RowText;
+    EXPECT_EQ(lists::faceIDText("CALLERID_FINGER_UP", RowText::Footer, "wieder beim Anheben des Fingers.", german),
+              "wieder beim Wegsehen.");
+    EXPECT_EQ(lists::faceIDText("CALLERID_FINGER_UP", RowText::Footer, "lifting you finger", german),
+              "lifting you finger");
+    EXPECT_EQ(lists::faceIDText("CALLERID_HIDE_CALLER", RowText::Label, "x", german),
+              "Anrufer beim Wegsehen ausblenden");
+    EXPECT_EQ(lists::faceIDText("CALLERID_TOP", RowText::Footer, "mit Touch ID", german), "mit Face ID");
+    // A language without the phrase changes nothing.
+    const TextLookup empty = [](const LocalText &) { return std::string(); };
+    EXPECT_EQ(lists::faceIDText("CALLERID_FINGER_UP", RowText::Footer, "any text", empty), "any text");
+}
+
 TEST(BehaviourRules, DelayRowsHideWhileWaitingUntilFinished) {
     struct Case {
         const char *row;

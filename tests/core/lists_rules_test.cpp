@@ -3,8 +3,10 @@
 // the CCSettings titles and order.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <optional>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -290,6 +292,25 @@ TEST(CCSettings, Titles) {
         EXPECT_EQ(ccSettingsIconName(c.identifier), c.icon) << c.identifier;
     }
     EXPECT_EQ(capitalisedWords("hELLO wORLD\tagain"), "Hello World\tAgain");
+}
+
+// The fixed toggles' titles have keys; their English is the title made from the name.
+TEST(CCSettings, KnownTogglesHaveKeyedTitles) {
+    std::set<std::string_view> keys;
+    for (const CCSettingsTitle &known : kCCSettingsTitles) {
+        EXPECT_EQ(known.title.english, madeCCSettingsTitle(known.identifier)) << known.identifier;
+        EXPECT_TRUE(keys.insert(known.title.key).second) << known.title.key;
+    }
+    for (std::string_view identifier : kCCSettingsFixedOrder)
+        EXPECT_NE(std::find_if(std::begin(kCCSettingsTitles), std::end(kCCSettingsTitles),
+                               [&](const CCSettingsTitle &t) { return t.identifier == identifier; }),
+                  std::end(kCCSettingsTitles))
+            << identifier;
+    const TextLookup shout = [](const LocalText &text) { return "<" + std::string(text.key) + ">"; };
+    EXPECT_EQ(ccSettingsTitle("autoLock", shout), "<CCS_AUTO_LOCK>");
+    EXPECT_EQ(ccSettingsTitle("someNewToggle", shout), "Some New Toggle");  // unknown: the made title
+    EXPECT_EQ(moduleTitle("ReplayKitModule.bundle", std::nullopt, std::nullopt, shout), "<CC_SCREEN_RECORDING>");
+    EXPECT_EQ(moduleTitle("TorchModule.bundle", std::string("Torch"), std::nullopt, shout), "Torch");
 }
 
 TEST(CCSettings, Order) {

@@ -99,5 +99,37 @@ TEST(SettingsFooter, WithoutASensorTheFaceIDFlagIsIgnored) {
   EXPECT_FALSE(f.hasLink);
 }
 
+// A language whose link text is not the English one: the range still starts at
+// the blank before the link and leaves out its last character, counted in UTF-16
+// units (the emoji takes two).
+std::string testLanguage(const LocalText &text) {
+  if (text.key == kForgotPasscodeLink.key) return "Code vergessen \xF0\x9F\x94\x91...";
+  if (text.key == kRecoveryTouchIDFooter.key) return "\xC3\x9C" "ber TouchID l\xC3\xB6schen.";
+  return std::string(text.english);
+}
+
+TEST(SettingsFooter, LinkRangeFollowsTheLinkTextInEveryLanguage) {
+  const SettingsFooter english = settingsFooter({true, true, false});
+  EXPECT_EQ(english.linkLength, 23u);
+  EXPECT_EQ(english.linkLocation, english.text.size() - 24);
+  EXPECT_EQ(english.text.substr(english.linkLocation, 24), " I forgot my passcode...");
+
+  const SettingsFooter german = settingsFooter({true, true, false}, testLanguage);
+  EXPECT_EQ(german.text, "\xC3\x9C" "ber TouchID l\xC3\xB6schen. Code vergessen \xF0\x9F\x94\x91...");
+  // "Über TouchID löschen." is 21 units, the link 20 (the key is two).
+  EXPECT_EQ(german.linkLocation, 21u);
+  EXPECT_EQ(german.linkLength, 20u);
+  EXPECT_EQ(utf16Length(german.text), 42u);
+  // Without a link the footer is the one sentence the language gives.
+  EXPECT_EQ(settingsFooter({false, true, true}, testLanguage).text, kFaceFooter.english);
+}
+
+TEST(SettingsFooter, EnglishFootersReadAsUsersKnowThem) {
+  EXPECT_NE(settingsFooter({true, true, true}).text.find("using  FaceID. I forgot"), std::string::npos);
+  EXPECT_NE(settingsFooter({true, true, false}).text.find("using TouchID. I forgot"), std::string::npos);
+  EXPECT_NE(settingsFooter({false, false, false}).text.find("add them main Tessarin"), std::string::npos);
+  EXPECT_NE(settingsFooter({false, true, false}).text.find("where your fingerprint is"), std::string::npos);
+}
+
 }  // namespace
 }  // namespace tessarin::passcode

@@ -50,12 +50,13 @@ TEST(RootBehaviour, FirstRunPromptTexts) {
             "fingerprint or a Tessarin passcode set. Would you like to setup one now?");
 
   facts.biometricSensor = false;
-  facts.noText = "Nein";
   prompt = firstRunPrompt(facts);
-  EXPECT_EQ(prompt->message, kNoPasscodeSetDefault);
+  EXPECT_EQ(prompt->message, kNoPasscodeSet);
+  EXPECT_EQ(prompt->message.key, "NO_TESSARIN_PASSCODE_SET");
   ASSERT_EQ(prompt->buttons.size(), 2u);
   EXPECT_EQ(prompt->buttons[0].effect, Effect::PushPasscodeSettings);
-  EXPECT_EQ(prompt->buttons[1].title, "Nein");
+  EXPECT_EQ(prompt->buttons[1].title, "No");
+  EXPECT_EQ(prompt->buttons[1].title.key, "NO");
 }
 
 TEST(RootBehaviour, SetupDecision) {
@@ -66,11 +67,11 @@ TEST(RootBehaviour, SetupDecision) {
   const PasscodeCharacteristics six{true, false, 6}, five{true, false, 5};
   const Case cases[] = {
       {"face id, ios 16", {true, std::nullopt, true, true, 40, false}, SetupOrigin::Prompt,
-       "PSUIPearlPasscodeController", false, kIOS16Notice, ""},
+       "PSUIPearlPasscodeController", false, kIOS16Notice.english, ""},
       {"face id, ios 15", {true, std::nullopt, true, false, 40, false}, SetupOrigin::Prompt,
        "PSUIPearlPasscodeController", true, "", ""},
       {"ios 14 with loader", {true, std::nullopt, true, false, 40, true}, SetupOrigin::Prompt,
-       "PSUIPearlPasscodeController", true, kLoaderNotice, ""},
+       "PSUIPearlPasscodeController", true, kLoaderNotice.english, ""},
       {"loader but square corners", {false, std::nullopt, true, false, 0, true}, SetupOrigin::Prompt,
        "PSMesaSettingsController", true, "", ""},
       {"loader before ios 14", {false, std::nullopt, false, false, 40, true}, SetupOrigin::Prompt,
@@ -86,7 +87,7 @@ TEST(RootBehaviour, SetupDecision) {
     const SetupDecision d = setupDecision(c.facts, c.origin);
     EXPECT_EQ(d.systemPageClasses.empty() ? std::string_view() : d.systemPageClasses.front(), c.firstClass) << c.name;
     EXPECT_EQ(d.pushSystemPage, c.push) << c.name;
-    EXPECT_EQ(d.notice ? std::string_view(d.notice->message) : std::string_view(), c.notice) << c.name;
+    EXPECT_EQ(d.notice ? d.notice->message.english : std::string_view(), c.notice) << c.name;
     EXPECT_EQ(d.userPasscodeControllerClass, c.userPage) << c.name;
   }
   const SetupDecision touch = setupDecision({false, std::nullopt, false, false, 0, false}, SetupOrigin::Prompt);
@@ -108,4 +109,15 @@ TEST(RootBehaviour, AlertViewButtons) {
       {true, 2, Effect::PushPasscodeSettings}, {true, 3, Effect::Nothing}, {true, -1, Effect::Nothing},
   };
   for (const Case &c : cases) EXPECT_EQ(alertViewButtonEffect(c.sensor, c.index), c.effect) << c.sensor << c.index;
+}
+
+// The version label stands at the header's trailing edge, mirrored with its inset right to left.
+TEST(RootBehaviour, VersionLabelAtTheTrailingEdge) {
+  const Rect ltr = header::versionLabelFrame(400), rtl = header::versionLabelFrame(400, true);
+  EXPECT_EQ(ltr.x, 0);
+  EXPECT_EQ(ltr.width, 394);
+  EXPECT_EQ(rtl.x, 6);
+  EXPECT_EQ(rtl.width, 394);
+  EXPECT_EQ(header::alignment(false), kTextAlignmentRight);
+  EXPECT_EQ(header::alignment(true), kTextAlignmentLeft);
 }

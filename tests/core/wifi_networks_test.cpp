@@ -78,16 +78,3 @@ TEST(WiFiNetworks, Trust) {
     EXPECT_EQ(isTrusted(c.list, [&] { return c.current; }), c.trusted) << c.name;
   }
 }
-
-TEST(WiFiNetworks, EmptyTrustListDoesNotAskForCurrentNetwork) {
-  int asked = 0;
-  const auto current = [&] {
-    ++asked;
-    return std::optional<std::string>("aa:aa:aa:aa:aa:aa");
-  };
-  EXPECT_FALSE(isTrusted({}, current));
-  EXPECT_EQ(asked, 0);
-  EXPECT_FALSE(isTrusted({TrustedEntry{std::string("x"), std::nullopt}}, nullptr));
-  EXPECT_TRUE(isTrusted({TrustedEntry{std::string("aa:aa:aa:aa:aa:aa"), std::nullopt}}, current));
-  EXPECT_EQ(asked, 1);
-}

@@ -23,6 +23,7 @@ const ProfileCase kProfiles[] = {
     {"ipad-ios15", "Version 15.7 (Build 19H12)", "iPad13,1", nullptr},
     {"iphone-ios17", "Version 17.0 (Build 21A329)", "iPhone15,4", "/var/jb/usr/lib/libflipswitch.dylib"},
     {"iphone-ios12", "Version 12.4 (Build 16G77)", "iPhone10,3", "/usr/lib/libflipswitch.dylib"},
+    {"iphone-ios13", "Version 13.7 (Build 17H35)", "iPhone12,1", nullptr},
     {"iphone-ios11", "Version 11.4 (Build 15F79)", "iPhone8,1", nullptr},
     {"iphone-nopasscode-ios16", "Version 16.2 (Build 20C65)", "iPhone14,5", nullptr},
 };

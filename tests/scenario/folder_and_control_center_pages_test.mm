@@ -153,6 +153,39 @@ TEST_F(ListPagesTest, AFolderPictureDrawsNineInTheGridTheTenthAtTheEdgeAndKeepsN
     EXPECT_EQ(withNested[3].rect.origin.y, 23);
 }
 
+// Under the icons, a picture is a translucent grey-blue square of 58 points with corners
+// rounded by 13.5, filled before anything else on a 60-point canvas at the screen's scale.
+TEST_F(ListPagesTest, AFolderPictureIsATranslucentGreyBlueRoundedSquareUnderItsIcons) {
+    StartDevice("iphone-touchid-ios14", true, ^(NSMutableDictionary *profile) {
+        [profile setObject:@[ folder(@"Empty", @[]), folder(@"Two", apps(2)) ] forKey:@"folders"];
+    });
+    PSListController *page = Open(@"TessarinFoldersController");
+    const double colour[] = {0.614312, 0.695196, 0.822695, 0.8};
+    for (NSString *name in @[ @"Empty", @"Two" ]) {
+        SCOPED_TRACE([name UTF8String]);
+        UIImage *picture = [Named(page, name) propertyForKey:@"iconImage"];
+        ASSERT_NE(picture, nil);
+        EXPECT_EQ(picture.size.width, 60);
+        EXPECT_EQ(picture.size.height, 60);
+        EXPECT_EQ(picture.scale, [UIScreen mainScreen].scale);
+        NSArray *ops = [picture _simDrawOperations];
+        NSUInteger first = [ops indexOfObjectPassingTest:^BOOL(NSString *op, NSUInteger i, BOOL *stop) {
+            return ([op hasPrefix:@"fill"] && ![op hasPrefix:@"fillColor "]) || [op hasPrefix:@"drawImage "];
+        }];
+        ASSERT_NE(first, (NSUInteger)NSNotFound) << [[ops description] UTF8String];
+        EXPECT_NSEQ([ops objectAtIndex:first], @"fillRect {{0, 0}, {58, 58}}");
+        NSArray *before = [ops subarrayWithRange:NSMakeRange(0, first)];
+        EXPECT_TRUE([before containsObject:@"cornerRadius 13.5"]) << [[before description] UTF8String];
+        NSString *fillColour = nil;
+        for (NSString *op in before)
+            if ([op hasPrefix:@"fillColor "]) fillColour = [op substringFromIndex:10];
+        NSArray *parts = [fillColour componentsSeparatedByString:@" "];
+        ASSERT_EQ([parts count], 4u) << [[fillColour description] UTF8String];
+        for (NSUInteger i = 0; i < 4; i++) EXPECT_NEAR([[parts objectAtIndex:i] doubleValue], colour[i], 5e-7) << i;
+        EXPECT_EQ(imageDraws(picture).size(), [name isEqual:@"Two"] ? 2u : 0u);
+    }
+}
+
 TEST_F(ListPagesTest, SameNamedFoldersSwitchTogetherAndStoreOneName) {
     StartDevice(SIM_DEFAULT_PROFILE, true, ^(NSMutableDictionary *profile) {
         [profile setObject:@[ folder(@"Twin", apps(1)), folder(@"Other", apps(1)), folder(@"Twin", apps(2)) ]

@@ -1,9 +1,14 @@
-// The trusted networks page: its rows on new and old systems, the switches' reads and
-// writes of the trusted list, and the password line and copy of a network's cell.
+// The trusted networks page: where its rows come from on each system and what it shows
+// above them, the switches' reads and writes of the trusted list, and the password line
+// and copy of a network's cell.
 #import <UIKit/UIKit.h>
 #import <Preferences/PreferencesSimulation.h>
 #import <UIKit/UIKitSimulation.h>
 #include <notify.h>
+#include <objc/runtime.h>
+
+#include <string>
+
 #import "BundleFixture.h"
 #include "core/SystemVersion.hpp"
 
@@ -26,11 +31,27 @@ NSString *const kOlderFooter =
 
 NSDictionary *entry(NSString *bssid, NSString *ssid) { return @{@"bssid" : bssid, @"ssid" : ssid}; }
 
-NSArray *names(NSArray *rows) {
-    NSMutableArray *out = [NSMutableArray array];
-    for (PSSpecifier *row in rows)
-        if ([row cellType] != PSGroupCell) [out addObject:[row name]];
-    return out;
+// Names of the rows the table reported selected, on pages of the class below.
+NSMutableArray *selectedRows = nil;
+
+typedef void (*DidSelectIMP)(id, SEL, UITableView *, NSIndexPath *);
+
+void recordSelection(id page, SEL cmd, UITableView *table, NSIndexPath *path) {
+    id name = [[page specifierAtIndexPath:path] name];
+    [selectedRows addObject:name != nil ? name : @"?"];
+    Class base = class_getSuperclass(object_getClass(page));
+    ((DidSelectIMP)class_getMethodImplementation(base, cmd))(page, cmd, table, path);
+}
+
+// The product's page, with the table's row selections noted on the way to it.
+NSString *pageNotingSelections() {
+    const char *name = "WiFiPageNotingSelections";
+    if (objc_getClass(name) == Nil) {
+        Class page = objc_allocateClassPair(NSClassFromString(@"TessarinWiFiController"), name, 0);
+        class_addMethod(page, @selector(tableView:didSelectRowAtIndexPath:), (IMP)recordSelection, "v@:@@");
+        objc_registerClassPair(page);
+    }
+    return @(name);
 }
 
 }  // namespace
@@ -40,16 +61,42 @@ protected:
     void TearDown() override {
         SimRunLoopRunFor(0.1);
         SimSettingsReset();
+        [selectedRows release];
+        selectedRows = nil;
         BundleTest::TearDown();
     }
 
+    // A fresh device, and the bundle's version flags as its start-up sets them there.
     void Start(const char *profile = SIM_DEFAULT_PROFILE, bool withSpringBoard = true) {
+        StopSpringBoard();
+        SimSettingsReset();
         StartDevice(profile, withSpringBoard);
         auto *flags = BundleSymbol<tessarin::SystemVersionFlags *>("systemVersion");
         *flags = tessarin::systemVersionFlags([[[NSProcessInfo processInfo] operatingSystemVersionString] UTF8String]);
     }
 
-    PSListController *OpenPage() { return OpenSettingsPane(@"TessarinWiFiController"); }
+    PSListController *OpenPage() {
+        selectedRows = [[NSMutableArray alloc] init];
+        return OpenSettingsPane(pageNotingSelections());
+    }
+
+    // What the table shows: a section's header and footer, and its rows' names.
+    NSString *Footer(PSListController *page, NSInteger section) {
+        UITableView *table = [page table];
+        return [[table dataSource] tableView:table titleForFooterInSection:section];
+    }
+    NSString *Header(PSListController *page, NSInteger section) {
+        UITableView *table = [page table];
+        return [[table dataSource] tableView:table titleForHeaderInSection:section];
+    }
+    NSArray *ShownNames(PSListController *page, NSInteger section) {
+        UITableView *table = [page table];
+        NSMutableArray *names = [NSMutableArray array];
+        if (section >= [table numberOfSections]) return names;
+        for (NSInteger row = 0; row < [table numberOfRowsInSection:section]; row++)
+            [names addObject:[[page specifierAtIndexPath:[NSIndexPath indexPathForRow:row inSection:section]] name]];
+        return names;
+    }
 
     PSSpecifier *Row(PSListController *page, NSString *name) {
         for (PSSpecifier *row in [page specifiers])
@@ -73,6 +120,8 @@ protected:
         return cell;
     }
 
+    static CGFloat WindowLeft(UITableViewCell *cell) { return [cell convertPoint:CGPointZero toView:nil].x; }
+
     // A tap on the cell at `x` points from the window's left edge.
     void TapCellAt(UITableViewCell *cell, CGFloat x) {
         UIView *content = [cell contentView];
@@ -90,26 +139,32 @@ protected:
     }
 };
 
-TEST_F(WiFiPageTest, KnownNetworksMostRecentFirstUnderTheExplanation) {
-    Start();
-    PSListController *page = OpenPage();
-    NSArray *rows = [page specifiers];
-    ASSERT_EQ([rows count], 6u);
-    EXPECT_EQ([[rows objectAtIndex:0] cellType], PSGroupCell);
-    EXPECT_EQ([[rows objectAtIndex:0] name], nil);
-    EXPECT_NSEQ([[rows objectAtIndex:0] propertyForKey:@"footerText"], kFooter);
-    EXPECT_NSEQ([[rows objectAtIndex:1] name], @"Choose trusted WiFi networks");
-    EXPECT_EQ([[rows objectAtIndex:1] propertyForKey:@"footerText"], nil);
-    EXPECT_NSEQ(names(rows), (@[ @"Office-5G", @"Home Network", @"Cafe Guest", @"Hidden Lab" ]));
-
-    PSSpecifier *office = Row(page, @"Office-5G");
-    EXPECT_NSEQ([office propertyForKey:@"bssid"], kOffice);
-    EXPECT_NSEQ([office propertyForKey:@"password"], @"work1234");
-    EXPECT_NSEQ([office propertyForKey:@"cellClass"], NSClassFromString(@"TessarinWifiInfoCell"));
-    EXPECT_EQ([office target], page);
-    EXPECT_EQ([Row(page, @"Cafe Guest") propertyForKey:@"password"], nil);
-    // A network without a known access point is listed all the same.
-    EXPECT_NSEQ([Row(page, @"Hidden Lab") propertyForKey:@"bssid"], kUnknown);
+// From iOS 13 the page reads the joined networks itself; before, only SpringBoard's answer lists them.
+TEST_F(WiFiPageTest, TheNetworksComeFromTheDeviceFromIOS13AndFromSpringBoardBefore) {
+    NSArray *known = @[ @"Office-5G", @"Home Network", @"Cafe Guest", @"Hidden Lab" ];
+    const struct {
+        const char *profile;
+        bool springBoard;
+        NSArray *listed;
+        NSString *footer;
+    } cases[] = {
+        {"iphone-faceid-ios16", false, known, kFooter},
+        {"iphone-ios13", false, known, kFooter},
+        {"iphone-ios12", true, known, kOlderFooter},
+        {"iphone-ios12", false, @[], kOlderFooter},
+    };
+    for (const auto &c : cases) {
+        SCOPED_TRACE(std::string(c.profile) + (c.springBoard ? " with SpringBoard" : " without SpringBoard"));
+        Start(c.profile, c.springBoard);
+        PSListController *page = OpenPage();
+        // The explanation stands alone above the list, as the footer of a group without rows.
+        EXPECT_NSEQ(Footer(page, 0), c.footer);
+        EXPECT_EQ(Header(page, 0), nil);
+        EXPECT_NSEQ(ShownNames(page, 0), @[]);
+        EXPECT_NSEQ(Header(page, 1), @"Choose trusted WiFi networks");
+        EXPECT_EQ(Footer(page, 1), nil);
+        EXPECT_NSEQ(ShownNames(page, 1), c.listed);
+    }
 }
 
 TEST_F(WiFiPageTest, ANetworkWithoutBSSIDCanBeTrustedAndNothingIsPosted) {
@@ -189,6 +244,8 @@ TEST_F(WiFiPageTest, ThePasswordLineAndItsCopy) {
     EXPECT_NSEQ([[[alert actions] objectAtIndex:0] title], @"Okay");
     EXPECT_EQ([[[alert actions] objectAtIndex:0] style], UIAlertActionStyleCancel);
     EXPECT_EQ([alert preferredStyle], UIAlertControllerStyleAlert);
+    // The copy leaves the touch to the table: both taps reached the row as any tap on a row does.
+    EXPECT_NSEQ(selectedRows, (@[ @"Home Network", @"Home Network" ]));
 }
 
 TEST_F(WiFiPageTest, ANetworkWithoutPasswordShowsNoLineAndIgnoresTaps) {
@@ -196,25 +253,22 @@ TEST_F(WiFiPageTest, ANetworkWithoutPasswordShowsNoLineAndIgnoresTaps) {
     PSListController *page = OpenPage();
     UITableViewCell *cafe = ShownCell(page, Row(page, @"Cafe Guest"));
     EXPECT_EQ([[[cafe detailTextLabel] text] length], 0u);
-    EXPECT_EQ([[[cafe contentView] gestureRecognizers] count], 0u);
     TapCellAt(cafe, 20);
     EXPECT_FALSE([[UIPasteboard generalPasteboard] hasStrings]);
     EXPECT_EQ(PresentedAlert(page, 0.3), nil);
 }
 
-TEST_F(WiFiPageTest, OlderSystemsAskSpringBoard) {
-    Start("iphone-ios12");
-    NSArray *rows = [OpenPage() specifiers];
-    ASSERT_EQ([rows count], 6u);
-    EXPECT_NSEQ([[rows objectAtIndex:0] propertyForKey:@"footerText"], kOlderFooter);
-    EXPECT_NSEQ([[rows objectAtIndex:1] name], @"Choose trusted WiFi networks");
-    EXPECT_NSEQ(names(rows), (@[ @"Office-5G", @"Home Network", @"Cafe Guest", @"Hidden Lab" ]));
-    EXPECT_NSEQ([[rows objectAtIndex:5] propertyForKey:@"bssid"], kUnknown);
-}
-
-TEST_F(WiFiPageTest, WithoutSpringBoardsAnswerOnlyTheGroupsShow) {
-    Start("iphone-ios12", /*withSpringBoard=*/false);
-    NSArray *rows = [OpenPage() specifiers];
-    ASSERT_EQ([rows count], 2u);
-    EXPECT_NSEQ([[rows objectAtIndex:0] propertyForKey:@"footerText"], kOlderFooter);
+// The left 200 points are the screen's: on an iPad the page stands right of the Settings
+// list, so a tap near a row's own left edge copies nothing.
+TEST_F(WiFiPageTest, OnAnIPadNoTapOnThePageCopies) {
+    Start("ipad-ios15");
+    PSListController *page = OpenPage();
+    UITableViewCell *home = ShownCell(page, Row(page, @"Home Network"));
+    ASSERT_NE([home window], nil);
+    const CGFloat left = WindowLeft(home);
+    ASSERT_GE(left, 200);
+    EXPECT_NSEQ([[home detailTextLabel] text], @"Pass: correct horse");
+    TapCellAt(home, left + 100);
+    EXPECT_EQ(PresentedAlert(page, 0.3), nil);
+    EXPECT_FALSE([[UIPasteboard generalPasteboard] hasStrings]);
 }

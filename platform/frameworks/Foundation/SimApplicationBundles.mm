@@ -5,8 +5,8 @@
 // - one bundle per path (GNUstep hands out the bundle of an identifier it has already met,
 //   even when it was found at another path, so an application installed twice reads as one);
 // - the Info.plist read once, when first asked for, and nothing else at creation;
-// - resources and string tables searched globally first, then in the user's languages, then
-//   in the development region.
+// - resources and string tables searched globally first, then in the .lproj iOS chooses for the
+//   user's languages, then in the development region's (see SimLocalization.mm).
 // Bundles outside the device, or not ending in ".app", stay GNUstep's.
 #import <Foundation/Foundation.h>
 #include <Simulator/Simulator.h>
@@ -97,51 +97,13 @@ id simBundleWithPath(id self, SEL _cmd, NSString *path)
     return gPlatformBundleWithPath(self, _cmd, path);
 }
 
-// The user's languages: the profile's "languages", English when it names none.
-std::vector<std::string> userLanguages()
-{
-    std::vector<std::string> languages;
-    for (id language in SimProfileValue(@"languages", [NSArray class])) {
-        const std::string name = utf8(language);
-        if (!name.empty() && name.find('/') == std::string::npos) languages.push_back(name);
-    }
-    if (languages.empty()) languages.push_back("en");
-    return languages;
-}
-
-// The folders searched for a resource of the bundle at `top`, in order: the bundle's top,
-// then the .lproj of each of the user's languages, then the development region's.
+// The folders searched for a resource of the bundle at `top`, in order: the bundle's top, the
+// .lproj of the user's language, the development region's.
 std::vector<std::string> searchFolders(NSString *top, NSString *developmentRegion)
 {
-    const std::string bundle = utf8(top);
-    std::vector<std::string> folders{bundle};
-    std::vector<std::string> languages = userLanguages();
-    const std::string region = utf8(developmentRegion);
-    if (!region.empty() && region.find('/') == std::string::npos) languages.push_back(region);
-    for (const std::string &language : languages) {
-        std::string folder = bundle + "/" + language + ".lproj";
-        if (std::find(folders.begin(), folders.end(), folder) == folders.end()) folders.push_back(folder);
-    }
+    std::vector<std::string> folders;
+    for (NSString *folder in SimLocalizationSearchFolders(top, developmentRegion)) folders.push_back(utf8(folder));
     return folders;
-}
-
-// A strings table: a property list (binary or XML), or the old text format.
-NSDictionary *readStringsTable(NSString *path)
-{
-    NSData *data = [NSData dataWithContentsOfFile:path];
-    if (data == nil) return nil;
-    id table = [NSPropertyListSerialization propertyListWithData:data options:0 format:NULL error:NULL];
-    if (![table isKindOfClass:[NSDictionary class]]) {
-        NSString *text = [[[NSString alloc] initWithData:data encoding:NSUTF8StringEncoding] autorelease];
-        if (text == nil) text = [[[NSString alloc] initWithData:data encoding:NSUTF16StringEncoding] autorelease];
-        table = nil;
-        @try {
-            table = [text propertyListFromStringsFileFormat];
-        } @catch (NSException *) {
-            table = nil;
-        }
-    }
-    return [table isKindOfClass:[NSDictionary class]] ? table : nil;
 }
 
 }  // namespace
@@ -219,22 +181,13 @@ NSDictionary *readStringsTable(NSString *path)
 
 - (NSArray *)localizations
 {
-    NSMutableArray *found = [NSMutableArray array];
-    for (NSString *entry in [[NSFileManager defaultManager] contentsOfDirectoryAtPath:_hostPath error:NULL])
-        if ([[entry pathExtension] isEqualToString:@"lproj"]) [found addObject:[entry stringByDeletingPathExtension]];
-    return found;
+    return SimBundleLocalizations(_hostPath);
 }
 
 - (NSArray *)preferredLocalizations
 {
-    NSMutableArray *preferred = [NSMutableArray array];
-    const std::vector<std::string> folders = searchFolders(_hostPath, [self developmentLocalization]);
-    for (size_t i = 1; i < folders.size(); i++) {
-        if (!isDirectory(folders[i])) continue;
-        NSString *folder = [NSString stringWithUTF8String:folders[i].c_str()];
-        [preferred addObject:[[folder lastPathComponent] stringByDeletingPathExtension]];
-    }
-    return preferred;
+    NSString *best = SimBestLocalization([self localizations], SimUserLanguages(), [self developmentLocalization]);
+    return best ? [NSArray arrayWithObject:best] : [NSArray array];
 }
 
 - (NSString *)pathForResource:(NSString *)name ofType:(NSString *)extension inDirectory:(NSString *)subpath
@@ -266,7 +219,7 @@ NSDictionary *readStringsTable(NSString *path)
     id cached = [_tables objectForKey:table];
     if (cached == nil) {
         NSString *path = [self pathForResource:table ofType:@"strings"];
-        cached = (path ? readStringsTable(path) : nil) ?: [NSNull null];
+        cached = (path ? SimReadStringsTable(path) : nil) ?: [NSNull null];
         [_tables setObject:cached forKey:table];
     }
     return [cached isKindOfClass:[NSDictionary class]] ? cached : nil;

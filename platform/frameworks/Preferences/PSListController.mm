@@ -190,6 +190,17 @@ static PSCellType defaultCellType(NSString *name) {
 }
 
 // Loading rows from a property list.
+//
+// As on iOS, the texts a plist gives a person to read are localised from the strings table of
+// the plist's own name (Delay.plist from Delay.strings, in the bundle's .lproj of the user's
+// language), through the bundle's localizedStringForKey:value:table: with the text as written
+// in the plist as both key and fallback: the page's "title", each row's "label" (its name) and
+// "footerText", and the titles of its choices ("validTitles", "shortTitles"). This rests on the
+// header dumps of the Preferences framework, where loadSpecifiersFromPlistName:target: hands
+// SpecifiersFromPlist the plist's name as its strings table, and on Apple's Settings
+// Application Schema Reference, which names the same texts (title, footer, choice titles)
+// localisable from the plist's table. Every other property, a cell's subtitle included, is
+// copied as it stands.
 
 - (NSArray *)loadSpecifiersFromPlistName:(NSString *)plistName target:(id)target {
   return [self loadSpecifiersFromPlistName:plistName target:target bundle:[self bundle]];
@@ -240,7 +251,13 @@ static PSCellType defaultCellType(NSString *name) {
       for (id t in [titles isKindOfClass:[NSArray class]] ? titles : values)
         [localized addObject:[t isKindOfClass:[NSString class]] ? [bundle localizedStringForKey:t value:t table:plistName] : t];
       NSArray *shortTitles = [item objectForKey:@"shortTitles"];
-      [s setValues:values titles:localized shortTitles:[shortTitles isKindOfClass:[NSArray class]] ? shortTitles : nil];
+      NSMutableArray *localizedShort = nil;
+      if ([shortTitles isKindOfClass:[NSArray class]]) {
+        localizedShort = [NSMutableArray array];
+        for (id t in shortTitles)
+          [localizedShort addObject:[t isKindOfClass:[NSString class]] ? [bundle localizedStringForKey:t value:t table:plistName] : t];
+      }
+      [s setValues:values titles:localized shortTitles:localizedShort];
     }
     NSString *keyboard = [item objectForKey:@"keyboard"];
     if ([keyboard isEqual:@"numbers"]) s->keyboardType = UIKeyboardTypeNumberPad;
@@ -714,10 +731,8 @@ static PSCellType defaultCellType(NSString *name) {
 - (NSArray *)viewControllers {
   return [self childViewControllers];
 }
-- (void)setViewControllers:(NSArray *)controllers {
-  for (UIViewController *c in [self childViewControllers]) [c removeFromParentViewController];
-  for (UIViewController *c in controllers) [self addChildViewController:c];
-  if (![self isViewLoaded]) return;
+- (void)_simShowColumns {
+  NSArray *controllers = [self childViewControllers];
   CGRect bounds = self.view.bounds;
   CGFloat listWidth = controllers.count > 1 ? 320 : bounds.size.width;
   for (NSUInteger i = 0; i < controllers.count; i++) {
@@ -726,6 +741,16 @@ static PSCellType defaultCellType(NSString *name) {
                      : CGRectMake(listWidth, 0, bounds.size.width - listWidth, bounds.size.height);
     [self.view addSubview:v];
   }
+}
+- (void)setViewControllers:(NSArray *)controllers {
+  for (UIViewController *c in [self childViewControllers]) [c removeFromParentViewController];
+  for (UIViewController *c in controllers) [self addChildViewController:c];
+  if ([self isViewLoaded]) [self _simShowColumns];
+}
+// Columns set before the view loads are shown when it does.
+- (void)viewDidLoad {
+  [super viewDidLoad];
+  [self _simShowColumns];
 }
 @end
 

@@ -2,6 +2,7 @@
 // to the processes that run on it.
 
 #import <Foundation/Foundation.h>
+#include <string>
 #include <Simulator/Simulator.h>
 #include <Simulator/SimSystemFiles.h>
 #include <Simulator/SimApplications.h>
@@ -308,6 +309,36 @@ NSDictionary *SimDeviceProfile(void)
     NSDictionary *profile = [[gProfile retain] autorelease];
     pthread_mutex_unlock(&gDeviceLock);
     return profile ? profile : [NSDictionary dictionary];
+}
+
+int SimDeviceChooseLanguage(const char *language)
+{
+    const char *root = SimDeviceRoot();
+    if (root == NULL || language == NULL || language[0] == '\0' || strchr(language, '/') != NULL) return -1;
+    NSAutoreleasePool *pool = [[NSAutoreleasePool alloc] init];
+    NSString *path = [[NSString stringWithUTF8String:root] stringByAppendingPathComponent:@".simulator/profile.plist"];
+    NSMutableDictionary *profile = [[readDictionary(path) mutableCopy] autorelease];
+    NSString *chosen = [NSString stringWithUTF8String:language];
+    int result = -1;
+    if (profile != nil && chosen != nil) {
+        // As Settings does when the user picks a language: it goes first, the others follow.
+        NSMutableArray *languages = [NSMutableArray arrayWithObject:chosen];
+        id before = [profile objectForKey:@"languages"];
+        for (id other in [before isKindOfClass:[NSArray class]] ? before : @[ @"en" ])
+            if ([other isKindOfClass:[NSString class]] && ![other isEqual:chosen]) [languages addObject:other];
+        [profile setObject:languages forKey:@"languages"];
+        NSData *data = [NSPropertyListSerialization dataWithPropertyList:profile
+                                                                  format:NSPropertyListXMLFormat_v1_0
+                                                                 options:0
+                                                                   error:NULL];
+        if ([data writeToFile:path atomically:YES]) {
+            std::string again(root);  // the root may be the buffer SimDeviceUse writes
+            SimDeviceUse(again.c_str());  // every cache made from the old profile goes
+            result = 0;
+        }
+    }
+    [pool release];
+    return result;
 }
 
 id SimProfileValue(NSString *key, Class expectedClass)

@@ -36,6 +36,16 @@ id SimProfileValue(NSString *key, Class expectedClass);
 /* The jail root of the device in use: "/var/jb" (rootless) or "" (rootful). */
 const char *SimJailRootPrefix(void);
 
+/* Localisation as iOS does it (Foundation/SimLocalization.mm). The .lproj names at the top of
+   a bundle; the folders searched for one of its tables (its top, the .lproj of the user's
+   language, the development region's); a strings table (UTF-8 or UTF-16 with a byte order
+   mark, strings format or property list; nil when malformed); the writing direction of a
+   language. */
+NSArray *SimBundleLocalizations(NSString *bundlePath);
+NSArray *SimLocalizationSearchFolders(NSString *bundlePath, NSString *developmentRegion);
+NSDictionary *SimReadStringsTable(NSString *path);
+NSLocaleLanguageDirection SimCharacterDirection(NSString *language);
+
 #ifdef __cplusplus
 }
 #endif

@@ -230,6 +230,19 @@ const CGFloat UITableViewAutomaticDimension = -1;
       break;
     }
   }
+  // Right to left, UIKit lays the cell out mirrored: accessory on the left, image on the right.
+  if ([self effectiveUserInterfaceLayoutDirection] == UIUserInterfaceLayoutDirectionRightToLeft) {
+    for (UIView *view in @[ accessory ?: [NSNull null], _contentView ]) {
+      if (![view isKindOfClass:[UIView class]]) continue;
+      CGRect f = view.frame;
+      view.frame = CGRectMake(w - CGRectGetMaxX(f), f.origin.y, f.size.width, f.size.height);
+    }
+    for (UIView *view in @[ _imageView, _textLabel, _detailTextLabel ?: [NSNull null] ]) {
+      if (![view isKindOfClass:[UIView class]]) continue;
+      CGRect f = view.frame;
+      if (!CGRectIsEmpty(f)) view.frame = CGRectMake(cw - CGRectGetMaxX(f), f.origin.y, f.size.width, f.size.height);
+    }
+  }
   UITableView *table = [self _simTableView];
   UIColor *separator = _separatorColor ? _separatorColor : table.separatorColor;
   if (!separator) separator = [UIColor separatorColor];

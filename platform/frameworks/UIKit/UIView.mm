@@ -153,6 +153,31 @@ void SimUIKitResetResponders(void) {
 + (Class)layerClass {
   return [CALayer class];
 }
+// As UIKit documents it: forced attributes decide; playback and spatial controls stay left to
+// right; everything else follows the given (or the application's) direction.
++ (UIUserInterfaceLayoutDirection)userInterfaceLayoutDirectionForSemanticContentAttribute:
+                                      (UISemanticContentAttribute)attribute
+                                                      relativeToLayoutDirection:(UIUserInterfaceLayoutDirection)direction {
+  switch (attribute) {
+    case UISemanticContentAttributeForceRightToLeft:
+      return UIUserInterfaceLayoutDirectionRightToLeft;
+    case UISemanticContentAttributeForceLeftToRight:
+    case UISemanticContentAttributePlayback:
+    case UISemanticContentAttributeSpatial:
+      return UIUserInterfaceLayoutDirectionLeftToRight;
+    default:
+      return direction;
+  }
+}
++ (UIUserInterfaceLayoutDirection)userInterfaceLayoutDirectionForSemanticContentAttribute:
+    (UISemanticContentAttribute)attribute {
+  return [self userInterfaceLayoutDirectionForSemanticContentAttribute:attribute
+                                             relativeToLayoutDirection:[[UIApplication sharedApplication]
+                                                                           userInterfaceLayoutDirection]];
+}
+- (UIUserInterfaceLayoutDirection)effectiveUserInterfaceLayoutDirection {
+  return [UIView userInterfaceLayoutDirectionForSemanticContentAttribute:_semanticContentAttribute];
+}
 - (instancetype)init {
   return [self initWithFrame:CGRectZero];
 }

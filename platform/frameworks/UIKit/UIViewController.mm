@@ -803,8 +803,13 @@ static UIApplication *gSharedApplication;
 - (UIInterfaceOrientation)statusBarOrientation {
   return UIInterfaceOrientationPortrait;
 }
+// The Settings app, like every Apple application, has every language of the system: its
+// interface reads in the direction of the user's first language.
 - (UIUserInterfaceLayoutDirection)userInterfaceLayoutDirection {
-  return UIUserInterfaceLayoutDirectionLeftToRight;
+  NSString *language = [[NSLocale preferredLanguages] firstObject];
+  return language != nil && [NSLocale characterDirectionForLanguage:language] == NSLocaleLanguageDirectionRightToLeft
+             ? UIUserInterfaceLayoutDirectionRightToLeft
+             : UIUserInterfaceLayoutDirectionLeftToRight;
 }
 - (void)beginIgnoringInteractionEvents {
   ++_ignoringInteractionEvents;

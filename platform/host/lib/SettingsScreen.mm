@@ -34,35 +34,88 @@ static const NSUInteger kScreenWidth = 78;
 
 #pragma mark - Text helpers
 
+// Columns a character takes in a terminal: none for combining marks and invisible format
+// characters, two for East Asian wide and full-width characters, one otherwise.
+static NSUInteger columnsOf(unichar high, unichar low) {
+  unsigned long c = high;
+  if (high >= 0xD800 && high <= 0xDBFF && low >= 0xDC00 && low <= 0xDFFF)
+    c = 0x10000 + ((unsigned long)(high - 0xD800) << 10) + (low - 0xDC00);
+  if ((c >= 0x0300 && c <= 0x036F) || (c >= 0x0483 && c <= 0x0489) || (c >= 0x0591 && c <= 0x05C7) ||
+      (c >= 0x0610 && c <= 0x061A) || (c >= 0x064B && c <= 0x065F) || c == 0x0670 || (c >= 0x06D6 && c <= 0x06ED) ||
+      (c >= 0x0E31 && c <= 0x0E3A && c != 0x0E32 && c != 0x0E33) || (c >= 0x0E47 && c <= 0x0E4E) ||
+      (c >= 0x1AB0 && c <= 0x1AFF) || (c >= 0x1DC0 && c <= 0x1DFF) || (c >= 0x200B && c <= 0x200F) ||
+      (c >= 0x202A && c <= 0x202E) || (c >= 0x2060 && c <= 0x2064) || (c >= 0x20D0 && c <= 0x20FF) ||
+      (c >= 0xFE00 && c <= 0xFE0F) || (c >= 0xFE20 && c <= 0xFE2F) || c == 0xFEFF)
+    return 0;
+  if ((c >= 0x1100 && c <= 0x115F) || (c >= 0x2E80 && c <= 0x303E) || (c >= 0x3041 && c <= 0x33FF) ||
+      (c >= 0x3400 && c <= 0x4DBF) || (c >= 0x4E00 && c <= 0x9FFF) || (c >= 0xA000 && c <= 0xA4CF) ||
+      (c >= 0xAC00 && c <= 0xD7A3) || (c >= 0xF900 && c <= 0xFAFF) || (c >= 0xFE30 && c <= 0xFE4F) ||
+      (c >= 0xFF00 && c <= 0xFF60) || (c >= 0xFFE0 && c <= 0xFFE6) || (c >= 0x1F300 && c <= 0x1FAFF) ||
+      (c >= 0x20000 && c <= 0x3FFFD))
+    return 2;
+  return 1;
+}
+
+// The text's width on a terminal, in columns.
+static NSUInteger widthOf(NSString *text) {
+  NSUInteger width = 0, length = [text length];
+  for (NSUInteger i = 0; i < length; i++) {
+    unichar c = [text characterAtIndex:i];
+    unichar next = i + 1 < length ? [text characterAtIndex:i + 1] : 0;
+    width += columnsOf(c, next);
+    if (c >= 0xD800 && c <= 0xDBFF && next >= 0xDC00 && next <= 0xDFFF) i++;
+  }
+  return width;
+}
+
+static NSString *blanks(NSUInteger count) {
+  return [@"" stringByPaddingToLength:count withString:@" " startingAtIndex:0];
+}
+
+// The longest start of `text` (whole characters) that fits in `room` columns; at least one character.
+static NSUInteger fittingLength(NSString *text, NSUInteger room) {
+  NSUInteger used = 0, at = 0, length = [text length];
+  while (at < length) {
+    NSRange character = [text rangeOfComposedCharacterSequenceAtIndex:at];
+    NSUInteger width = widthOf([text substringWithRange:character]);
+    if (at > 0 && used + width > room) break;
+    used += width;
+    at = NSMaxRange(character);
+  }
+  return at;
+}
+
 NSArray *SettingsScreenWrap(NSString *text, NSUInteger width, NSString *indent) {
   NSMutableArray *lines = [NSMutableArray array];
   if (indent == nil) indent = @"";
-  NSUInteger room = width > [indent length] + 8 ? width - [indent length] : 8;
+  NSUInteger room = width > widthOf(indent) + 8 ? width - widthOf(indent) : 8;
   for (NSString *paragraph in [text componentsSeparatedByString:@"\n"]) {
     NSMutableString *line = [NSMutableString string];
     for (NSString *word in [paragraph componentsSeparatedByString:@" "]) {
       if ([word length] == 0) {
         // Runs of blanks are kept inside a line as they are written.
-        if ([line length] > 0 && [line length] < room) [line appendString:@" "];
+        if ([line length] > 0 && widthOf(line) < room) [line appendString:@" "];
         continue;
       }
       NSString *rest = word;
-      while ([rest length] > room) {
+      // A word wider than a line (or a line of a language written without blanks) is cut.
+      while (widthOf(rest) > room) {
         if ([line length] > 0) {
           [lines addObject:[indent stringByAppendingString:line]];
           [line setString:@""];
         }
-        [lines addObject:[indent stringByAppendingString:[rest substringToIndex:room]]];
-        rest = [rest substringFromIndex:room];
+        NSUInteger cut = fittingLength(rest, room);
+        [lines addObject:[indent stringByAppendingString:[rest substringToIndex:cut]]];
+        rest = [rest substringFromIndex:cut];
       }
       if ([line length] > 0 && ![line hasSuffix:@" "]) {
-        if ([line length] + 1 + [rest length] > room) {
+        if (widthOf(line) + 1 + widthOf(rest) > room) {
           [lines addObject:[indent stringByAppendingString:line]];
           [line setString:@""];
         } else {
           [line appendString:@" "];
         }
-      } else if ([line length] + [rest length] > room) {
+      } else if (widthOf(line) + widthOf(rest) > room) {
         [lines addObject:[indent stringByAppendingString:line]];
         [line setString:@""];
       }
@@ -73,24 +126,55 @@ NSArray *SettingsScreenWrap(NSString *text, NSUInteger width, NSString *indent) 
   return lines;
 }
 
-// Left text and right text on one line, the right one flush with the screen's edge.
+// Pages of a right-to-left language are drawn mirrored: what stands at a row's left in
+// English stands at its right, and the row's value (switch, chevron) at its left.
+static BOOL gRightToLeft = NO;
+
+// Left text and right text on one line, the right one flush with the screen's edge; mirrored
+// right to left (`left` then ends at the right edge, `right` starts at the left one).
 static NSString *columns(NSString *left, NSString *right) {
+  if (gRightToLeft) {
+    NSString *start = [left stringByTrimmingCharactersInSet:[NSCharacterSet whitespaceCharacterSet]];
+    NSUInteger inset = widthOf(left) - widthOf([left stringByTrimmingCharactersInSet:
+                                                          [NSCharacterSet whitespaceCharacterSet]]);
+    NSString *end = [start stringByAppendingString:blanks(inset)];
+    NSUInteger used = widthOf(right) + widthOf(end);
+    NSUInteger gap = used + 2 <= kScreenWidth ? kScreenWidth - used : ([right length] > 0 ? 2 : 0);
+    if ([right length] == 0 && used < kScreenWidth) gap = kScreenWidth - used;
+    return [NSString stringWithFormat:@"%@%@%@", right, blanks(gap), end];
+  }
   if ([right length] == 0) return left;
-  NSUInteger used = [left length] + [right length];
+  NSUInteger used = widthOf(left) + widthOf(right);
   NSUInteger gap = used + 2 <= kScreenWidth ? kScreenWidth - used : 2;
-  return [NSString stringWithFormat:@"%@%@%@", left, [@"" stringByPaddingToLength:gap withString:@" " startingAtIndex:0],
-                                    right];
+  return [NSString stringWithFormat:@"%@%@%@", left, blanks(gap), right];
+}
+
+// A line of text that starts after `indent` (left to right) or ends before it (right to left).
+static NSString *aligned(NSString *line) {
+  if (!gRightToLeft) return line;
+  return columns(line, @"");
+}
+
+static NSArray *alignedLines(NSArray *lines) {
+  NSMutableArray *out = [NSMutableArray array];
+  for (NSString *line in lines) [out addObject:aligned(line)];
+  return out;
 }
 
 static NSString *centred(NSString *text) {
-  NSUInteger length = [text length];
-  if (length >= kScreenWidth) return text;
-  NSUInteger pad = (kScreenWidth - length) / 2;
-  return [[@"" stringByPaddingToLength:pad withString:@" " startingAtIndex:0] stringByAppendingString:text];
+  NSUInteger width = widthOf(text);
+  if (width >= kScreenWidth) return text;
+  return [blanks((kScreenWidth - width) / 2) stringByAppendingString:text];
 }
 
 static NSString *rule(NSString *character) {
   return [@"" stringByPaddingToLength:kScreenWidth withString:character startingAtIndex:0];
+}
+
+// `text` padded with blanks to `width` columns.
+static NSString *padded(NSString *text, NSUInteger width) {
+  NSUInteger used = widthOf(text);
+  return used >= width ? text : [text stringByAppendingString:blanks(width - used)];
 }
 
 // A bar button's title, or for an image button the image's name ("share" for share@3x.png).
@@ -292,6 +376,7 @@ static NSString *sliderText(id value, PSSpecifier *specifier) {
   NSMutableArray *items = [NSMutableArray array];
 
   UIViewController *root = SimSettingsWindowRootController();
+  gRightToLeft = [[UIApplication sharedApplication] userInterfaceLayoutDirection] == UIUserInterfaceLayoutDirectionRightToLeft;
   if (root == nil) {
     [screen setText:@"(the Settings app has no window)\n"];
     [screen setItems:items];
@@ -341,6 +426,11 @@ static NSString *sliderText(id value, PSSpecifier *specifier) {
   [lines addObject:rule(@"=")];
   if (modal != nil) {
     [lines addObject:columns(@" (modal page)", [buttons componentsJoinedByString:@" "])];
+  } else if ([trail count] > 1 && gRightToLeft) {
+    // The way back points right.
+    NSArray *back = [[trail reverseObjectEnumerator] allObjects];
+    [lines addObject:columns([[back componentsJoinedByString:@" < "] stringByAppendingString:@" > "],
+                             [buttons componentsJoinedByString:@" "])];
   } else if ([trail count] > 1) {
     [lines addObject:columns([@" < " stringByAppendingString:[trail componentsJoinedByString:@" > "]],
                              [buttons componentsJoinedByString:@" "])];
@@ -372,7 +462,8 @@ static NSString *sliderText(id value, PSSpecifier *specifier) {
   if (footer == nil) footer = stringOrNil([group propertyForKey:@"ACUIFooterText"]);
   NSString *linkAction = stringOrNil([group propertyForKey:@"footerHyperlinkAction"]);
   BOOL wholeFooterTaps = linkAction == nil && [group buttonAction] != NULL && footer != nil;
-  if (footer != nil && !wholeFooterTaps) [lines addObjectsFromArray:SettingsScreenWrap(footer, kScreenWidth, @"    ")];
+  if (footer != nil && !wholeFooterTaps)
+    [lines addObjectsFromArray:alignedLines(SettingsScreenWrap(footer, kScreenWidth, @"    "))];
   if (linkAction == nil && !wholeFooterTaps) return;
 
   NSString *linkText = footer;
@@ -388,7 +479,9 @@ static NSString *sliderText(id value, PSSpecifier *specifier) {
   [item setFooterLink:YES];
   [items addObject:item];
   NSString *number = [NSString stringWithFormat:@"[%lu]", (unsigned long)[items count]];
-  [lines addObject:[NSString stringWithFormat:@"    %@ link: %@", number, linkText != nil ? linkText : @"(link)"]];
+  NSString *link = linkText != nil ? linkText : @"(link)";
+  [lines addObject:aligned(gRightToLeft ? [NSString stringWithFormat:@"    %@ :link %@", link, number]
+                                        : [NSString stringWithFormat:@"    %@ link: %@", number, link])];
 }
 
 - (void)renderList:(UIViewController *)page into:(NSMutableArray *)lines items:(NSMutableArray *)items {
@@ -412,7 +505,7 @@ static NSString *sliderText(id value, PSSpecifier *specifier) {
       group = specifier;
       [lines addObject:@""];
       NSString *header = stringOrNil([specifier name]);
-      if (header != nil) [lines addObject:[@"  " stringByAppendingString:[header uppercaseString]]];
+      if (header != nil) [lines addObject:aligned([@"  " stringByAppendingString:[header uppercaseString]])];
       continue;
     }
     NSString *name = stringOrNil([specifier name]);
@@ -432,7 +525,7 @@ static NSString *sliderText(id value, PSSpecifier *specifier) {
       NSArray *parts = [name componentsSeparatedByString:@"\n"];
       for (NSUInteger i = 0; i < [parts count]; i++) {
         NSString *trimmed = [[parts objectAtIndex:i] stringByTrimmingCharactersInSet:[NSCharacterSet whitespaceCharacterSet]];
-        [lines addObject:[NSString stringWithFormat:@"  !! %@%@", trimmed, i + 1 == [parts count] ? disabled : @""]];
+        [lines addObject:aligned([NSString stringWithFormat:@"  !! %@%@", trimmed, i + 1 == [parts count] ? disabled : @""])];
       }
       [lines addObject:[@"  " stringByAppendingString:[rule(@"!") substringToIndex:kScreenWidth - 4]]];
       continue;
@@ -448,7 +541,9 @@ static NSString *sliderText(id value, PSSpecifier *specifier) {
     [item setController:page];
     [items addObject:item];
     NSString *number = [NSString stringWithFormat:@"[%lu]", (unsigned long)[items count]];
-    NSString *left = [NSString stringWithFormat:@"  %@ %@", number, name];
+    // Right to left the number stands at the row's start, on the right.
+    NSString *left = gRightToLeft ? [NSString stringWithFormat:@"  %@ %@", name, number]
+                                  : [NSString stringWithFormat:@"  %@ %@", number, name];
     NSString *right = @"";
     id value = nil;
     switch (type) {
@@ -460,7 +555,9 @@ static NSString *sliderText(id value, PSSpecifier *specifier) {
       case kLinkListCell: {
         value = SettingsScreenRowValue(specifier, page);
         NSString *shown = valueText(value, specifier);
-        right = shown != nil ? [shown stringByAppendingString:@" >"] : @">";
+        // The chevron points the way the page is pushed: to the left, right to left.
+        right = gRightToLeft ? (shown != nil ? [@"< " stringByAppendingString:shown] : @"<")
+                             : (shown != nil ? [shown stringByAppendingString:@" >"] : @">");
         break;
       }
       case kButtonCell:
@@ -499,7 +596,7 @@ static NSString *sliderText(id value, PSSpecifier *specifier) {
       subtitle = stringOrNil([[cell detailTextLabel] text]);
       if ([subtitle length] == 0) subtitle = nil;
     }
-    if (subtitle != nil) [lines addObjectsFromArray:SettingsScreenWrap(subtitle, kScreenWidth, @"        ")];
+    if (subtitle != nil) [lines addObjectsFromArray:alignedLines(SettingsScreenWrap(subtitle, kScreenWidth, @"        "))];
   }
   [self addFooter:group page:page into:lines items:items];
 }
@@ -607,8 +704,9 @@ static const NSUInteger kTextLines = 30;
                                                         stringByAppendingString:@"+"]];
   [lines addObject:edge];
   for (NSString *line in box) {
-    [lines addObject:[NSString stringWithFormat:@"    | %@ |",
-                                                [line stringByPaddingToLength:inner withString:@" " startingAtIndex:0]]];
+    NSString *inside = gRightToLeft ? [blanks(inner > widthOf(line) ? inner - widthOf(line) : 0) stringByAppendingString:line]
+                                    : padded(line, inner);
+    [lines addObject:[NSString stringWithFormat:@"    | %@ |", inside]];
   }
   [lines addObject:edge];
 }

@@ -35,6 +35,11 @@ int SimDeviceCreate(const char *root, const char *profile);
    Returns 0 on success, -1 otherwise. */
 int SimDeviceRemove(const char *root);
 
+/* Puts `language` (a language ID: "de", "pt-BR", "zh-Hans") first among the user's languages of
+   the device in use, as a user who chose it in Settings does; the languages before follow it.
+   Meant for before the device's processes start. Returns 0 on success, -1 otherwise. */
+int SimDeviceChooseLanguage(const char *language);
+
 /* Makes `root` the device of this process (NULL: no device); also exports SIM_DEVICE_ROOT_ENV so processes
    started afterwards share it. Drops every per-process cache tied to the previous device
    (preference caches, notify registrations, profile). */
@@ -110,6 +115,14 @@ FOUNDATION_EXPORT NSDictionary *SimDeviceProfile(void);
    (and _plain, _dispatch), "NSLog MESSAGE", "operatingSystemVersionString" (each read),
    "load NAME" (the Settings host loading a bundle). Kept for the life of the process. */
 FOUNDATION_EXPORT NSArray *SimEventLog(void);
+/* The user's languages, most preferred first: the profile's "languages" (English when it names
+   none). NSLocale's preferredLanguages answers the same. */
+FOUNDATION_EXPORT NSArray *SimUserLanguages(void);
+/* The localisation iOS shows a bundle in: the first of `preferences` that one of `available`
+   (.lproj names) matches, with iOS's fallbacks (script and region dropped, zh-Hans/zh_CN,
+   zh-Hant/zh_TW, nb/no, pt as Brazilian, old names such as "English"); else the development
+   region when available; else nil. */
+FOUNDATION_EXPORT NSString *SimBestLocalization(NSArray *available, NSArray *preferences, NSString *developmentRegion);
 /* Runs the run loop until `condition` returns YES or `timeout` seconds pass; returns the last answer. */
 FOUNDATION_EXPORT BOOL SimRunLoopRunUntil(BOOL (^condition)(void), double timeout);
 #endif

@@ -6,10 +6,7 @@
 
 @class UIWindow;
 
-typedef NS_ENUM(NSInteger, UIUserInterfaceLayoutDirection){
-    UIUserInterfaceLayoutDirectionLeftToRight,
-    UIUserInterfaceLayoutDirectionRightToLeft,
-};
+/* UIUserInterfaceLayoutDirection: in UIView.h, whose views use it too. */
 
 typedef NS_ENUM(NSInteger, UIApplicationState){
     UIApplicationStateActive,

@@ -75,6 +75,11 @@ typedef NS_ENUM(NSInteger, UIViewTintAdjustmentMode){
     UIViewTintAdjustmentModeDimmed,
 };
 
+typedef NS_ENUM(NSInteger, UIUserInterfaceLayoutDirection){
+    UIUserInterfaceLayoutDirectionLeftToRight,
+    UIUserInterfaceLayoutDirectionRightToLeft,
+};
+
 typedef NS_ENUM(NSInteger, UISemanticContentAttribute){
     UISemanticContentAttributeUnspecified = 0,
     UISemanticContentAttributePlayback,
@@ -143,6 +148,15 @@ UIKIT_EXTERN const CGFloat UIViewNoIntrinsicMetric;
 @property(nonatomic) UIEdgeInsets layoutMargins;
 @property(nonatomic, readonly) UIEdgeInsets safeAreaInsets;
 @property(nonatomic) UISemanticContentAttribute semanticContentAttribute;
+/* iOS 10: the direction the view lays out in: its semantic content attribute, read against the
+   application's direction when unspecified. */
+@property(nonatomic, readonly) UIUserInterfaceLayoutDirection effectiveUserInterfaceLayoutDirection;
+/* iOS 9 and 10. */
++ (UIUserInterfaceLayoutDirection)userInterfaceLayoutDirectionForSemanticContentAttribute:
+    (UISemanticContentAttribute)attribute;
++ (UIUserInterfaceLayoutDirection)userInterfaceLayoutDirectionForSemanticContentAttribute:
+                                      (UISemanticContentAttribute)attribute
+                                                      relativeToLayoutDirection:(UIUserInterfaceLayoutDirection)direction;
 @property(nonatomic) UIUserInterfaceStyle overrideUserInterfaceStyle;
 @property(nonatomic, readonly) UITraitCollection *traitCollection;
 @property(nonatomic, copy) NSString *accessibilityLabel;

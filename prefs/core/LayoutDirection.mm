@@ -1,0 +1,6 @@
+#import "core/LayoutDirection.h"
+
+BOOL isRightToLeft(UIView *view) {
+  if (view == nil) return NO;
+  return [view effectiveUserInterfaceLayoutDirection] == UIUserInterfaceLayoutDirectionRightToLeft;
+}
