@@ -498,6 +498,12 @@ void drawAlert(Canvas &canvas, UIAlertController *alert) {
 
 #pragma mark - The picture
 
+static CGRect rectOf(NSArray *numbers) {
+  if ([numbers count] != 4) return CGRectZero;
+  return CGRectMake([[numbers objectAtIndex:0] doubleValue], [[numbers objectAtIndex:1] doubleValue],
+                    [[numbers objectAtIndex:2] doubleValue], [[numbers objectAtIndex:3] doubleValue]);
+}
+
 SimScreenPicture *SimRenderSettingsScreen(BOOL fullPage) {
   NSAutoreleasePool *pool = [[NSAutoreleasePool alloc] init];
   Canvas canvas;
@@ -606,9 +612,7 @@ SimScreenPicture *SimRenderSettingsScreen(BOOL fullPage) {
   }
   for (NSUInteger i = 0; i < [records count]; i++) {
     NSDictionary *record = [records objectAtIndex:i];
-    CGRect frame = CGRectZero, clip = CGRectZero;
-    [[record objectForKey:@"frame"] getValue:&frame];
-    [[record objectForKey:@"clip"] getValue:&clip];
+    CGRect frame = rectOf([record objectForKey:@"frame"]), clip = rectOf([record objectForKey:@"clip"]);
     SimDrawnText *text = [[[SimDrawnText alloc] init] autorelease];
     [text setText:[record objectForKey:@"text"]];
     [text setFrame:CGRectMake(frame.origin.x / canvas.scale, frame.origin.y / canvas.scale,

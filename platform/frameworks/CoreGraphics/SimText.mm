@@ -50,6 +50,10 @@ CGRect deviceBox(cairo_t *cr, double x0, double y0, double x1, double y1) {
   return CGRectMake(minX, minY, maxX - minX, maxY - minY);
 }
 
+NSArray *rectArray(CGRect r) {
+  return @[ @(r.origin.x), @(r.origin.y), @(r.size.width), @(r.size.height) ];
+}
+
 }  // namespace
 
 extern "C" {
@@ -166,8 +170,8 @@ void SimTextDrawLayout(cairo_t *cr, PangoLayout *layout, CGPoint origin, CGFloat
     NSString *text = [NSString stringWithUTF8String:utf8 != NULL ? utf8 : ""];
     [state.records addObject:@{
       @"text" : text != nil ? text : @"",
-      @"frame" : [NSValue valueWithBytes:&frame objCType:@encode(CGRect)],
-      @"clip" : [NSValue valueWithBytes:&clip objCType:@encode(CGRect)],
+      @"frame" : rectArray(frame),
+      @"clip" : rectArray(clip),
       @"truncated" : @(SimTextLayoutTruncated(layout) ? YES : NO),
       @"alpha" : @(alpha)
     }];

@@ -72,11 +72,8 @@ static const int kDeepest = 3;
 }
 
 // What identifies a screen: the page on top, the modal page and the alert over it.
-- (NSArray *)signatureOf:(SettingsScreen *)screen {
-  return @[
-    [NSValue valueWithNonretainedObject:[screen page]], [NSValue valueWithNonretainedObject:[screen modal]],
-    [NSValue valueWithNonretainedObject:[screen alert]]
-  ];
+- (NSString *)signatureOf:(SettingsScreen *)screen {
+  return [NSString stringWithFormat:@"%p %p %p", (void *)[screen page], (void *)[screen modal], (void *)[screen alert]];
 }
 
 - (NSString *)nameOf:(SettingsScreen *)screen under:(NSString *)trail {
@@ -142,17 +139,17 @@ static const int kDeepest = 3;
   [_console perform:@"back"];
 }
 
-- (BOOL)returnTo:(NSArray *)signature {
+- (BOOL)returnTo:(NSString *)signature {
   for (int attempt = 0; attempt < 4; attempt++) {
-    if ([[self signatureOf:[self look]] isEqualToArray:signature]) return YES;
+    if ([[self signatureOf:[self look]] isEqualToString:signature]) return YES;
     [self stepBack];
   }
-  return [[self signatureOf:[self look]] isEqualToArray:signature];
+  return [[self signatureOf:[self look]] isEqualToString:signature];
 }
 
 - (void)walk:(NSString *)trail depth:(int)depth {
   SettingsScreen *screen = [self look];
-  NSArray *home = [self signatureOf:screen];
+  NSString *home = [self signatureOf:screen];
   NSUInteger count = [[screen items] count];
   for (NSUInteger i = 0; i < count && _count < kMostPictures; i++) {
     screen = [self look];
@@ -161,7 +158,7 @@ static const int kDeepest = 3;
     if ([item footerLink] || !opensSomething([item specifier])) continue;
     [_console perform:[NSString stringWithFormat:@"tap %lu", (unsigned long)(i + 1)]];
     SettingsScreen *after = [self look];
-    if ([[self signatureOf:after] isEqualToArray:home]) continue;
+    if ([[self signatureOf:after] isEqualToString:home]) continue;
     NSString *name = [self nameOf:after under:trail];
     [self shoot:name];
     if ([after alert] == nil && depth < kDeepest) [self walk:name depth:depth + 1];

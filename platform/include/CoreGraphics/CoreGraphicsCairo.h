@@ -51,8 +51,8 @@ void SimTextDrawLayout(cairo_t *cr, PangoLayout *layout, CGPoint origin, CGFloat
 
 /* Text records: while recording, every text drawn anywhere (the Settings host's screen, the
    product's own drawing) onto `surface` adds a dictionary: "text" (NSString, as written),
-   "frame" (NSValue CGRect: the laid-out text's box in device pixels of the surface), "clip"
-   (NSValue CGRect: the clip in force, device pixels), "truncated" (NSNumber: an ellipsis
+   "frame" (the laid-out text's box in device pixels of the surface: x, y, width and height,
+   NSNumbers), "clip" (the clip in force, the same way), "truncated" (NSNumber: an ellipsis
    stands for text left out) and "alpha" (NSNumber). */
 void SimTextBeginRecording(cairo_surface_t *surface);
 /* How many texts were recorded so far (to tell which were drawn between two moments). */
