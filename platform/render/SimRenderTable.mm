@@ -112,7 +112,7 @@ StandardParts placeStandardParts(UITableViewCell *cell, CGSize size, double marg
       break;
     case UITableViewCellStyleSubtitle: {
       double th = [[title text] length] > 0 ? measureText([title text], titleFont, available, 1).height : 0;
-      double dh = [detailText length] > 0 ? measureText(detailText, detailFont, available, 0).height : 0;
+      double dh = [detailText length] > 0 ? measureText(detailText, detailFont, available, [detail numberOfLines]).height : 0;
       double top = floor((h - th - dh) / 2);
       parts.title = CGRectMake(x, top, available, th);
       parts.detail = CGRectMake(x, top + th, available, dh);
@@ -181,7 +181,7 @@ void drawCell(Canvas &canvas, UITableView *table, UITableViewCell *cell, CGRect 
       if (![detail isEnabled]) colour = tertiaryLabelColour();
       int alignment = [cell style] == UITableViewCellStyleValue1 ? SimTextAlignRight : (int)[detail textAlignment];
       drawText(cr, [detail text], fontOf([detail font], systemFont(subtitle ? 12 : 17, 400)), colour, parts.detail,
-               alignment, subtitle ? 0 : 1, true, true);
+               alignment, subtitle ? [detail numberOfLines] : 1, true, true);
     }
     for (UIView *subview in [content subviews]) {
       if (subview == iconView || subview == [cell textLabel] || subview == [cell detailTextLabel]) continue;

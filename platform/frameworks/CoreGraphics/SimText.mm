@@ -50,6 +50,23 @@ CGRect deviceBox(cairo_t *cr, double x0, double y0, double x1, double y1) {
   return CGRectMake(minX, minY, maxX - minX, maxY - minY);
 }
 
+// The system font's tracking by size (points), as the platform's typography tables give it:
+// text sizes are set a little tighter than the face's own spacing, large titles looser.
+double trackingFor(double size) {
+  static const double table[][2] = {{11, 0.06}, {12, 0},     {13, -0.08}, {14, -0.15}, {15, -0.24},
+                                    {16, -0.31}, {17, -0.43}, {20, -0.45}, {22, -0.26}, {24, 0.07},
+                                    {28, 0.38},  {34, 0.40}};
+  const size_t n = sizeof table / sizeof table[0];
+  if (size <= table[0][0]) return table[0][1];
+  for (size_t i = 1; i < n; i++) {
+    if (size <= table[i][0]) {
+      double t = (size - table[i - 1][0]) / (table[i][0] - table[i - 1][0]);
+      return table[i - 1][1] + t * (table[i][1] - table[i - 1][1]);
+    }
+  }
+  return table[n - 1][1];
+}
+
 NSArray *rectArray(CGRect r) {
   return @[ @(r.origin.x), @(r.origin.y), @(r.size.width), @(r.size.height) ];
 }
@@ -101,6 +118,12 @@ PangoLayout *SimTextCreateLayout(NSString *text, SimTextFont font, CGFloat width
 
   const char *utf8 = [text isKindOfClass:[NSString class]] ? [text UTF8String] : "";
   pango_layout_set_text(layout, utf8 != NULL ? utf8 : "", -1);
+  if (!font.monospace) {
+    PangoAttrList *attributes = pango_attr_list_new();
+    pango_attr_list_insert(attributes, pango_attr_letter_spacing_new((int)lround(trackingFor(font.size) * PANGO_SCALE)));
+    pango_layout_set_attributes(layout, attributes);
+    pango_attr_list_unref(attributes);
+  }
   pango_layout_set_auto_dir(layout, alignment == SimTextAlignNatural);
   switch (alignment) {
     case SimTextAlignCenter:

@@ -76,13 +76,15 @@ static const int kDeepest = 3;
   return [NSString stringWithFormat:@"%p %p %p", (void *)[screen page], (void *)[screen modal], (void *)[screen alert]];
 }
 
-- (NSString *)nameOf:(SettingsScreen *)screen under:(NSString *)trail {
+// A page by the titles leading to it; an alert by the row that brought it up and its title.
+- (NSString *)nameOf:(SettingsScreen *)screen under:(NSString *)trail row:(NSString *)row {
   NSString *page = SettingsScreenPageTitle([screen page]);
   NSString *name = trail == nil ? page : [trail hasSuffix:page] ? trail : [NSString stringWithFormat:@"%@ > %@", trail, page];
   if ([screen alert] != nil) {
     NSString *title = [[screen alert] title];
     if ([title length] == 0) title = [[screen alert] message];
-    name = [NSString stringWithFormat:@"%@ > alert: %@", trail != nil ? trail : page, title != nil ? title : @""];
+    name = [NSString stringWithFormat:@"%@ > %@ (alert: %@)", trail != nil ? trail : page, row != nil ? row : @"",
+                                      title != nil ? title : @""];
   }
   return name;
 }
@@ -159,7 +161,7 @@ static const int kDeepest = 3;
     [_console perform:[NSString stringWithFormat:@"tap %lu", (unsigned long)(i + 1)]];
     SettingsScreen *after = [self look];
     if ([[self signatureOf:after] isEqualToString:home]) continue;
-    NSString *name = [self nameOf:after under:trail];
+    NSString *name = [self nameOf:after under:trail row:[[item specifier] name]];
     [self shoot:name];
     if ([after alert] == nil && depth < kDeepest) [self walk:name depth:depth + 1];
     if (![self returnTo:home]) {
