@@ -44,6 +44,14 @@ class SetPasscodeFlow;
 // the visible pages and close after a second.
 - (void)commitPasscode:(NSString *)value;
 - (void)clearEntryField;
+// The page's view: the entry field with the prompt and warning lines under the
+// title, on a root view of the screen's width, and a Cancel button.
+- (void)setUpPageWithField:(UIView *)field
+                background:(UIColor *)background
+                    prompt:(NSString *)prompt
+               promptFrame:(const tessarin::passcode::Rect &)promptFrame
+              warningFrame:(const tessarin::passcode::Rect &)warningFrame
+                     title:(NSString *)title;
 // Whether the page looks dark: the system-wide dark mode, else the trait collection.
 - (BOOL)usesDarkAppearance;
 @end

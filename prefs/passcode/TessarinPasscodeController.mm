@@ -81,31 +81,45 @@ void setCentreX(UIView *view, CGFloat x) {
   delete _setFlow;
   _setFlow = new passcode::SetPasscodeFlow();
 
-  UIView *root = [[[UIView alloc] initWithFrame:cgRect(passcode::rootViewFrame(width))] autorelease];
-  [root setAutoresizingMask:passcode::kFlexibleSizeMask];
-  [root setBackgroundColor:passcodeColour([self usesDarkAppearance] ? passcode::kDarkBackground : passcode::kLightBackground)];
-  if ([self respondsToSelector:@selector(setView:)]) [self setView:root];
-
   PSPasscodeField *field = [[[PSPasscodeField alloc] initWithNumberOfEntryFields:passcode::kDigitEntryFields] autorelease];
   [field setFrame:cgRect(passcode::digitFieldFrame(width))];
   [field setSecurePasscodeEntry:YES];
   [field setDelegate:self];
+  [self setUpPageWithField:field
+                background:passcodeColour([self usesDarkAppearance] ? passcode::kDarkBackground
+                                                                    : passcode::kLightBackground)
+                    prompt:passcodePageText(passcode::SetPasscodeFlow::initialPrompt())
+               promptFrame:passcode::promptFrame(width)
+              warningFrame:passcode::warningFrame(width)
+                     title:passcodePageText(passcode::SetPasscodeFlow::title())];
+  [pool release];
+}
+
+- (void)setUpPageWithField:(UIView *)field
+                background:(UIColor *)background
+                    prompt:(NSString *)prompt
+               promptFrame:(const passcode::Rect &)promptFrame
+              warningFrame:(const passcode::Rect &)warningFrame
+                     title:(NSString *)title {
+  const CGFloat width = [[UIScreen mainScreen] bounds].size.width;
+  UIView *root = [[[UIView alloc] initWithFrame:cgRect(passcode::rootViewFrame(width))] autorelease];
+  [root setAutoresizingMask:passcode::kFlexibleSizeMask];
+  [root setBackgroundColor:background];
+  if ([self respondsToSelector:@selector(setView:)]) [self setView:root];
+
   self.passcodeField = field;
-
-  self.label = passcodePageLabel(passcode::promptFrame(width), passcodePageText(passcode::SetPasscodeFlow::initialPrompt()));
-  self.warnLabel = passcodePageLabel(passcode::warningFrame(width), @"");
-
+  self.label = passcodePageLabel(promptFrame, prompt);
+  self.warnLabel = passcodePageLabel(warningFrame, @"");
   [root addSubview:field];
   [root addSubview:self.label];
   [root addSubview:self.warnLabel];
 
-  [self setTitle:passcodePageText(passcode::SetPasscodeFlow::title())];
+  [self setTitle:title];
   UIBarButtonItem *cancel = [[[UIBarButtonItem alloc] initWithTitle:passcodePageText(passcode::text::kCancel)
                                                               style:UIBarButtonItemStylePlain
                                                              target:self
                                                              action:@selector(cancelAndCleanup)] autorelease];
   [[self navigationItem] setRightBarButtonItem:cancel animated:NO];
-  [pool release];
 }
 
 - (void)viewWillAppear:(BOOL)animated {

@@ -6,9 +6,9 @@
 #import <Foundation/Foundation.h>
 #include <CoreFoundation/CoreFoundation.h>
 #include "Simulator/SimInternal.h"
+#include "CoreFoundation/CFPreferencesInternal.h"
 
 #include <fcntl.h>
-#include <objc/runtime.h>
 #include <pthread.h>
 #include <sys/file.h>
 #include <unistd.h>
@@ -19,6 +19,8 @@ const CFStringRef kCFPreferencesAnyHost = (CFStringRef) @"kCFPreferencesAnyHost"
 const CFStringRef kCFPreferencesCurrentHost = (CFStringRef) @"kCFPreferencesCurrentHost";
 const CFStringRef kCFPreferencesAnyUser = (CFStringRef) @"kCFPreferencesAnyUser";
 const CFStringRef kCFPreferencesCurrentUser = (CFStringRef) @"kCFPreferencesCurrentUser";
+
+#pragma mark - Domains: the cache and the files
 
 // The cached state of one domain in this process.
 @interface SimPreferenceDomain : NSObject {
@@ -61,7 +63,7 @@ void SimPreferencesDeviceChanged(void)
     pthread_mutex_unlock(&gPrefsLock);
 }
 
-static NSString *domainName(CFStringRef applicationID)
+NSString *SimPreferencesDomainName(CFStringRef applicationID)
 {
     NSString *app = (NSString *)applicationID;
     if (![app isKindOfClass:[NSString class]] || [app length] == 0) return nil;
@@ -182,9 +184,11 @@ static id propertyListCopy(id value)
     }
 }
 
+#pragma mark - CFPreferences
+
 CFPropertyListRef CFPreferencesCopyAppValue(CFStringRef key, CFStringRef applicationID)
 {
-    NSString *domain = domainName(applicationID);
+    NSString *domain = SimPreferencesDomainName(applicationID);
     if (domain == nil || ![(id)key isKindOfClass:[NSString class]]) return NULL;
     pthread_mutex_lock(&gPrefsLock);
     id value = [[[cachedDomain(domain) values] objectForKey:(NSString *)key] retain];
@@ -194,7 +198,7 @@ CFPropertyListRef CFPreferencesCopyAppValue(CFStringRef key, CFStringRef applica
 
 void CFPreferencesSetAppValue(CFStringRef key, CFPropertyListRef value, CFStringRef applicationID)
 {
-    NSString *domain = domainName(applicationID);
+    NSString *domain = SimPreferencesDomainName(applicationID);
     if (domain == nil || ![(id)key isKindOfClass:[NSString class]]) return;
     NSAutoreleasePool *pool = [[NSAutoreleasePool alloc] init];
     id copy = propertyListCopy((id)value);
@@ -211,7 +215,7 @@ void CFPreferencesSetAppValue(CFStringRef key, CFPropertyListRef value, CFString
 
 Boolean CFPreferencesAppSynchronize(CFStringRef applicationID)
 {
-    NSString *domain = domainName(applicationID);
+    NSString *domain = SimPreferencesDomainName(applicationID);
     if (domain == nil) return false;
     NSAutoreleasePool *pool = [[NSAutoreleasePool alloc] init];
     Boolean ok = false;
@@ -276,7 +280,7 @@ Boolean CFPreferencesSynchronize(CFStringRef applicationID, CFStringRef userName
 
 CFArrayRef CFPreferencesCopyKeyList(CFStringRef applicationID, CFStringRef userName, CFStringRef hostName)
 {
-    NSString *domain = domainName(applicationID);
+    NSString *domain = SimPreferencesDomainName(applicationID);
     if (domain == nil) return NULL;
     pthread_mutex_lock(&gPrefsLock);
     NSArray *keys = [[[cachedDomain(domain) values] allKeys] copy];
@@ -288,8 +292,9 @@ CFArrayRef CFPreferencesCopyKeyList(CFStringRef applicationID, CFStringRef userN
     return (CFArrayRef)keys;
 }
 
-// Replaces the whole domain on disk (nil: empties it) and the cache with it.
-static void replaceDomain(NSString *domain, NSDictionary *values)
+#pragma mark - The store for NSUserDefaults
+
+void SimPreferencesReplaceDomain(NSString *domain, NSDictionary *values)
 {
     NSString *path = domainPath(domain);
     pthread_mutex_lock(&gPrefsLock);
@@ -304,7 +309,7 @@ static void replaceDomain(NSString *domain, NSDictionary *values)
     pthread_mutex_unlock(&gPrefsLock);
 }
 
-static NSDictionary *domainSnapshot(NSString *domain)
+NSDictionary *SimPreferencesDomainSnapshot(NSString *domain)
 {
     CFPreferencesAppSynchronize((CFStringRef)domain);
     pthread_mutex_lock(&gPrefsLock);
@@ -313,222 +318,10 @@ static NSDictionary *domainSnapshot(NSString *domain)
     return values;
 }
 
-// MARK: - NSUserDefaults on the same store
-
-// A suite's defaults: reads and writes go to the preference domain of the suite.
-@interface SimSuiteUserDefaults : NSUserDefaults {
-    NSString *_suiteName;
-    NSMutableDictionary *_registered;
-}
-@property(nonatomic, copy) NSString *suiteName;
-@property(nonatomic, retain) NSMutableDictionary *registered;
-- (instancetype)initSuite:(NSString *)suiteName;
-@end
-
-@implementation SimSuiteUserDefaults
-@synthesize suiteName = _suiteName;
-@synthesize registered = _registered;
-
-- (instancetype)initSuite:(NSString *)suiteName
+NSDictionary *SimPreferencesCachedValues(NSString *domain)
 {
-    // NSUserDefaults' own set-up (the user's defaults database) is skipped on purpose:
-    // every method a suite answers is overridden here.
-    _suiteName = [suiteName copy];
-    _registered = [[NSMutableDictionary alloc] init];
-    return self;
-}
-
-#pragma clang diagnostic push
-#pragma clang diagnostic ignored "-Wobjc-missing-super-calls"
-- (void)dealloc
-{
-    [_suiteName release];
-    [_registered release];
-    // NSUserDefaults' -dealloc would tear down state this object never set up.
-    IMP rootDealloc = class_getMethodImplementation([NSObject class], @selector(dealloc));
-    ((void (*)(id, SEL))rootDealloc)(self, _cmd);
-}
-#pragma clang diagnostic pop
-
-- (id)objectForKey:(NSString *)defaultName
-{
-    id value = [(id)CFPreferencesCopyAppValue((CFStringRef)defaultName, (CFStringRef)_suiteName) autorelease];
-    return value ? value : [_registered objectForKey:defaultName];
-}
-
-- (void)setObject:(id)value forKey:(NSString *)defaultName
-{
-    CFPreferencesSetAppValue((CFStringRef)defaultName, (CFPropertyListRef)value, (CFStringRef)_suiteName);
-}
-
-- (void)removeObjectForKey:(NSString *)defaultName
-{
-    CFPreferencesSetAppValue((CFStringRef)defaultName, NULL, (CFStringRef)_suiteName);
-}
-
-- (BOOL)synchronize
-{
-    return CFPreferencesAppSynchronize((CFStringRef)_suiteName) ? YES : NO;
-}
-
-- (void)registerDefaults:(NSDictionary *)dictionary
-{
-    [_registered addEntriesFromDictionary:dictionary];
-}
-
-- (NSDictionary *)dictionaryRepresentation
-{
-    NSMutableDictionary *all = [NSMutableDictionary dictionaryWithDictionary:_registered];
     pthread_mutex_lock(&gPrefsLock);
-    [all addEntriesFromDictionary:[cachedDomain(_suiteName) values]];
+    NSDictionary *values = [[[cachedDomain(domain) values] copy] autorelease];
     pthread_mutex_unlock(&gPrefsLock);
-    return all;
+    return values;
 }
-
-- (NSString *)stringForKey:(NSString *)defaultName
-{
-    id value = [self objectForKey:defaultName];
-    return [value isKindOfClass:[NSString class]] ? value : nil;
-}
-
-- (NSArray *)arrayForKey:(NSString *)defaultName
-{
-    id value = [self objectForKey:defaultName];
-    return [value isKindOfClass:[NSArray class]] ? value : nil;
-}
-
-- (NSDictionary *)dictionaryForKey:(NSString *)defaultName
-{
-    id value = [self objectForKey:defaultName];
-    return [value isKindOfClass:[NSDictionary class]] ? value : nil;
-}
-
-- (NSData *)dataForKey:(NSString *)defaultName
-{
-    id value = [self objectForKey:defaultName];
-    return [value isKindOfClass:[NSData class]] ? value : nil;
-}
-
-static BOOL isScalar(id value)
-{
-    return [value isKindOfClass:[NSNumber class]] || [value isKindOfClass:[NSString class]];
-}
-
-- (BOOL)boolForKey:(NSString *)defaultName
-{
-    id value = [self objectForKey:defaultName];
-    return isScalar(value) ? [value boolValue] : NO;
-}
-
-- (NSInteger)integerForKey:(NSString *)defaultName
-{
-    id value = [self objectForKey:defaultName];
-    return isScalar(value) ? [value integerValue] : 0;
-}
-
-- (float)floatForKey:(NSString *)defaultName
-{
-    id value = [self objectForKey:defaultName];
-    return isScalar(value) ? [value floatValue] : 0;
-}
-
-- (double)doubleForKey:(NSString *)defaultName
-{
-    id value = [self objectForKey:defaultName];
-    return isScalar(value) ? [value doubleValue] : 0;
-}
-
-- (void)setBool:(BOOL)value forKey:(NSString *)defaultName
-{
-    [self setObject:[NSNumber numberWithBool:value] forKey:defaultName];
-}
-
-- (void)setInteger:(NSInteger)value forKey:(NSString *)defaultName
-{
-    [self setObject:[NSNumber numberWithInteger:value] forKey:defaultName];
-}
-
-- (void)setFloat:(float)value forKey:(NSString *)defaultName
-{
-    [self setObject:[NSNumber numberWithFloat:value] forKey:defaultName];
-}
-
-- (void)setDouble:(double)value forKey:(NSString *)defaultName
-{
-    [self setObject:[NSNumber numberWithDouble:value] forKey:defaultName];
-}
-
-- (NSDictionary *)persistentDomainForName:(NSString *)domain
-{
-    return domainSnapshot(domain);
-}
-
-- (void)setPersistentDomain:(NSDictionary *)domain forName:(NSString *)domainName
-{
-    replaceDomain(domainName, domain);
-}
-
-- (void)removePersistentDomainForName:(NSString *)domain
-{
-    replaceDomain(domain, nil);
-}
-@end
-
-@implementation NSUserDefaults (SimSuites)
-- (instancetype)initWithSuiteName:(NSString *)suiteName
-{
-    if (suiteName == nil || [suiteName length] == 0) return [self init];
-    // This object never ran NSUserDefaults' initialiser: free it without its -dealloc.
-    NSDeallocateObject(self);
-    return [[SimSuiteUserDefaults alloc] initSuite:suiteName];
-}
-@end
-
-// The standard defaults reach the device's preference domains for named persistent domains.
-static IMP gOriginalRemoveDomain, gOriginalPersistentDomain, gOriginalSetDomain;
-
-static void simRemovePersistentDomain(id self, SEL _cmd, NSString *domain)
-{
-    if (SimDeviceRoot() != NULL && [domain isKindOfClass:[NSString class]] && domainName((CFStringRef)domain))
-        replaceDomain(domain, nil);
-    else
-        ((void (*)(id, SEL, NSString *))gOriginalRemoveDomain)(self, _cmd, domain);
-}
-
-static NSDictionary *simPersistentDomain(id self, SEL _cmd, NSString *domain)
-{
-    if (SimDeviceRoot() != NULL && [domain isKindOfClass:[NSString class]] && domainName((CFStringRef)domain))
-        return domainSnapshot(domain);
-    return ((NSDictionary * (*)(id, SEL, NSString *))gOriginalPersistentDomain)(self, _cmd, domain);
-}
-
-static void simSetPersistentDomain(id self, SEL _cmd, NSDictionary *values, NSString *domain)
-{
-    if (SimDeviceRoot() != NULL && [domain isKindOfClass:[NSString class]] && domainName((CFStringRef)domain))
-        replaceDomain(domain, values);
-    else
-        ((void (*)(id, SEL, NSDictionary *, NSString *))gOriginalSetDomain)(self, _cmd, values, domain);
-}
-
-@interface SimUserDefaultsLoader : NSObject
-@end
-
-@implementation SimUserDefaultsLoader
-+ (void)load
-{
-    Class cls = objc_getClass("NSUserDefaults");
-    struct {
-        SEL sel;
-        IMP imp;
-        IMP *original;
-    } hooks[] = {
-        {@selector(removePersistentDomainForName:), (IMP)simRemovePersistentDomain, &gOriginalRemoveDomain},
-        {@selector(persistentDomainForName:), (IMP)simPersistentDomain, &gOriginalPersistentDomain},
-        {@selector(setPersistentDomain:forName:), (IMP)simSetPersistentDomain, &gOriginalSetDomain},
-    };
-    for (auto &h : hooks) {
-        Method m = class_getInstanceMethod(cls, h.sel);
-        if (m) *h.original = method_setImplementation(m, h.imp);
-    }
-}
-@end

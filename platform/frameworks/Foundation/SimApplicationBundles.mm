@@ -142,6 +142,8 @@ std::vector<std::string> searchFolders(NSString *top, NSString *developmentRegio
     return [NSString stringWithFormat:@"NSBundle <%@> (not yet loaded)", _hostPath];
 }
 
+#pragma mark - Place and code (none is loaded)
+
 - (NSString *)bundlePath { return _hostPath; }
 - (NSString *)resourcePath { return _hostPath; }
 - (NSURL *)bundleURL { return [NSURL fileURLWithPath:_hostPath]; }
@@ -150,6 +152,8 @@ std::vector<std::string> searchFolders(NSString *top, NSString *developmentRegio
 - (BOOL)load { return NO; }
 - (Class)principalClass { return Nil; }
 - (Class)classNamed:(NSString *)className { return Nil; }
+
+#pragma mark - Info.plist
 
 - (NSDictionary *)infoDictionary
 {
@@ -178,6 +182,8 @@ std::vector<std::string> searchFolders(NSString *top, NSString *developmentRegio
     id region = [[self infoDictionary] objectForKey:@"CFBundleDevelopmentRegion"];
     return [region isKindOfClass:[NSString class]] ? region : @"en";
 }
+
+#pragma mark - Localisations and resources
 
 - (NSArray *)localizations
 {
@@ -213,6 +219,8 @@ std::vector<std::string> searchFolders(NSString *top, NSString *developmentRegio
     NSString *path = [self pathForResource:name ofType:extension];
     return path ? [NSURL fileURLWithPath:path] : nil;
 }
+
+#pragma mark - Strings tables
 
 - (NSDictionary *)stringsTableNamed:(NSString *)table
 {

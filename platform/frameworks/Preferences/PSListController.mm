@@ -1,82 +1,4 @@
-// Pages of the Preferences framework and the Settings application around them.
 #import <Preferences/PreferencesSimulation.h>
-#include <CoreFoundation/CoreFoundation.h>
-#include <notify.h>
-
-@implementation PSViewController
-- (instancetype)initForContentSize:(CGSize)contentSize {
-  return [self init];
-}
-- (void)dealloc {
-  [_specifier release];
-  [super dealloc];
-}
-- (PSSpecifier *)specifier {
-  return _specifier;
-}
-- (void)setSpecifier:(PSSpecifier *)specifier {
-  [specifier retain];
-  [_specifier release];
-  _specifier = specifier;
-  if (!self.title && specifier.name) self.title = specifier.name;
-}
-- (UIViewController *)parentController {
-  return _parentController;
-}
-- (void)setParentController:(UIViewController *)parent {
-  _parentController = parent;
-}
-- (id)rootController {
-  return _rootController ? _rootController : self.navigationController;
-}
-- (void)setRootController:(id)root {
-  _rootController = root;
-}
-- (void)setPreferenceValue:(id)value specifier:(PSSpecifier *)specifier {
-  NSString *domain = [specifier propertyForKey:PSDefaultsKey];
-  NSString *key = [specifier propertyForKey:PSKeyNameKey];
-  if ([domain isKindOfClass:[NSString class]] && [key isKindOfClass:[NSString class]]) {
-    CFPreferencesSetAppValue((CFStringRef)key, (CFPropertyListRef)value, (CFStringRef)domain);
-    CFPreferencesAppSynchronize((CFStringRef)domain);
-  }
-  NSString *note = [specifier propertyForKey:PSValueChangedNotificationKey];
-  if ([note isKindOfClass:[NSString class]] && note.length) notify_post([note UTF8String]);
-}
-- (id)readPreferenceValue:(PSSpecifier *)specifier {
-  NSString *domain = [specifier propertyForKey:PSDefaultsKey];
-  NSString *key = [specifier propertyForKey:PSKeyNameKey];
-  id value = nil;
-  if ([domain isKindOfClass:[NSString class]] && [key isKindOfClass:[NSString class]]) {
-    CFPreferencesAppSynchronize((CFStringRef)domain);
-    value = [(id)CFPreferencesCopyAppValue((CFStringRef)key, (CFStringRef)domain) autorelease];
-  }
-  return value ? value : [specifier propertyForKey:PSDefaultValueKey];
-}
-- (void)pushController:(UIViewController *)controller animate:(BOOL)animate {
-  if (!controller) return;
-  if ([controller isKindOfClass:[PSViewController class]]) {
-    PSViewController *page = (PSViewController *)controller;
-    page.parentController = self;
-    page.rootController = self.rootController;
-  }
-  UINavigationController *nav = self.navigationController;
-  if (!nav && [self.rootController isKindOfClass:[UINavigationController class]]) nav = self.rootController;
-  [nav pushViewController:controller animated:animate];
-}
-- (void)showController:(UIViewController *)controller animate:(BOOL)animate {
-  [self pushController:controller animate:animate];
-}
-- (void)showController:(UIViewController *)controller {
-  [self pushController:controller animate:YES];
-}
-- (void)handleURL:(NSDictionary *)url {
-}
-- (BOOL)canBeShownFromSuspendedState {
-  return YES;
-}
-- (void)suspend {
-}
-@end
 
 static PSCellType defaultCellType(NSString *name) {
   if (!name) return PSGroupCell;
@@ -100,7 +22,7 @@ static PSCellType defaultCellType(NSString *name) {
   [super dealloc];
 }
 
-// View.
+#pragma mark - View
 
 - (Class)tableViewClass {
   return [UITableView class];
@@ -128,7 +50,7 @@ static PSCellType defaultCellType(NSString *name) {
   [_table reloadData];
 }
 
-// Rows.
+#pragma mark - Rows
 
 - (NSArray *)specifiers {
   return _specifiers;
@@ -189,8 +111,8 @@ static PSCellType defaultCellType(NSString *name) {
   [_table endUpdates];
 }
 
-// Loading rows from a property list.
-//
+#pragma mark - Loading rows from a property list
+
 // As on iOS, the texts a plist gives a person to read are localised from the strings table of
 // the plist's own name (Delay.plist from Delay.strings, in the bundle's .lproj of the user's
 // language), through the bundle's localizedStringForKey:value:table: with the text as written
@@ -270,8 +192,9 @@ static PSCellType defaultCellType(NSString *name) {
   return rows;
 }
 
-// Groups: each group specifier starts a group; rows before the first one form a group too.
+#pragma mark - Groups
 
+// Each group specifier starts a group; rows before the first one form a group too.
 - (NSArray *)_simGroupStarts:(NSArray *)rows {
   NSMutableArray *starts = [NSMutableArray array];
   for (NSUInteger i = 0; i < rows.count; ++i) {
@@ -355,8 +278,9 @@ static PSCellType defaultCellType(NSString *name) {
   return s ? [[self _simRows] indexOfObjectIdenticalTo:s] : NSNotFound;
 }
 
-// Look-ups search the cached rows only (they are used while the rows are being built).
+#pragma mark - Look-ups
 
+// Look-ups search the cached rows only (they are used while the rows are being built).
 - (PSSpecifier *)specifierForID:(NSString *)identifier {
   if (!identifier) return nil;
   for (PSSpecifier *s in _specifiers)
@@ -377,7 +301,7 @@ static PSCellType defaultCellType(NSString *name) {
   return [self indexOfSpecifier:specifier] != NSNotFound;
 }
 
-// Editing the rows.
+#pragma mark - Editing the rows
 
 - (NSMutableArray *)_simMutableRows {
   return [NSMutableArray arrayWithArray:[self _simRows]];
@@ -463,7 +387,7 @@ static PSCellType defaultCellType(NSString *name) {
   [self replaceContiguousSpecifiers:specifiers withSpecifiers:newSpecifiers animated:NO];
 }
 
-// Cells.
+#pragma mark - Cells
 
 - (Class)cellClassForSpecifier:(PSSpecifier *)specifier {
   id cls = [specifier propertyForKey:PSCellClassKey];
@@ -552,7 +476,7 @@ static PSCellType defaultCellType(NSString *name) {
 - (void)lazyLoadBundle:(PSSpecifier *)specifier {
 }
 
-// Table data source and delegate.
+#pragma mark - Table data source and delegate
 
 - (NSInteger)numberOfSectionsInTableView:(UITableView *)tableView {
   return [self numberOfGroups];
@@ -662,207 +586,6 @@ static PSCellType defaultCellType(NSString *name) {
 }
 @end
 
-@implementation PSEditableListController
-@synthesize editable = _editable;
-- (instancetype)initWithNibName:(NSString *)nibNameOrNil bundle:(NSBundle *)nibBundleOrNil {
-  if ((self = [super initWithNibName:nibNameOrNil bundle:nibBundleOrNil])) _editable = YES;
-  return self;
-}
-- (void)viewWillAppear:(BOOL)animated {
-  [super viewWillAppear:animated];
-  if (_editable && !_editingDisabled && !self.navigationItem.rightBarButtonItem)
-    self.navigationItem.rightBarButtonItem = [self editButtonItem];
-}
-- (void)setEditingButtonHidden:(BOOL)hidden animated:(BOOL)animated {
-  _editingDisabled = hidden;
-  [self.navigationItem setRightBarButtonItem:hidden ? nil : [self editButtonItem] animated:animated];
-}
-- (void)setEditing:(BOOL)editing animated:(BOOL)animated {
-  [super setEditing:editing animated:animated];
-  [_table setEditing:editing animated:animated];
-}
-- (void)editDoneTapped {
-  [self setEditing:NO animated:YES];
-}
-- (BOOL)tableView:(UITableView *)tableView canEditRowAtIndexPath:(NSIndexPath *)indexPath {
-  return _editable;
-}
-- (UITableViewCellEditingStyle)tableView:(UITableView *)tableView editingStyleForRowAtIndexPath:(NSIndexPath *)indexPath {
-  return _editable ? UITableViewCellEditingStyleDelete : UITableViewCellEditingStyleNone;
-}
-- (void)tableView:(UITableView *)tableView commitEditingStyle:(UITableViewCellEditingStyle)style
-    forRowAtIndexPath:(NSIndexPath *)indexPath {
-  if (style != UITableViewCellEditingStyleDelete) return;
-  PSSpecifier *s = [self specifierAtIndexPath:indexPath];
-  if (s) [self performDeletionActionForSpecifier:s];
-}
-// As the framework does it: the row goes first, then its own "deletionAction" (if any) runs.
-- (BOOL)performDeletionActionForSpecifier:(PSSpecifier *)specifier {
-  [[specifier retain] autorelease];
-  [self removeSpecifier:specifier animated:YES];
-  id action = [specifier propertyForKey:@"deletionAction"];
-  SEL deletion = [action isKindOfClass:[NSString class]] ? NSSelectorFromString(action) : NULL;
-  if (deletion && [specifier.target respondsToSelector:deletion]) [specifier.target performSelector:deletion withObject:specifier];
-  return YES;
-}
-@end
-
-// The Settings application.
-
-@implementation PSRootController
-- (void)dealloc {
-  [super dealloc];
-}
-- (id)rootListController {
-  return _rootListController;
-}
-- (void)setRootListController:(id)controller {
-  _rootListController = controller;
-}
-@end
-
-// Settings holds each pane (the pages a Settings list row opens) in a navigation controller
-// of its own, the app's rootController. A phone shows the pane inside the navigation that
-// holds the Settings list, one level above the list; an iPad shows it beside the list.
-@implementation PSSplitViewController
-- (void)dealloc {
-  [super dealloc];
-}
-- (NSArray *)viewControllers {
-  return [self childViewControllers];
-}
-- (void)_simShowColumns {
-  NSArray *controllers = [self childViewControllers];
-  CGRect bounds = self.view.bounds;
-  CGFloat listWidth = controllers.count > 1 ? 320 : bounds.size.width;
-  for (NSUInteger i = 0; i < controllers.count; i++) {
-    UIView *v = [[controllers objectAtIndex:i] view];
-    v.frame = i == 0 ? CGRectMake(0, 0, listWidth, bounds.size.height)
-                     : CGRectMake(listWidth, 0, bounds.size.width - listWidth, bounds.size.height);
-    [self.view addSubview:v];
-  }
-}
-- (void)setViewControllers:(NSArray *)controllers {
-  for (UIViewController *c in [self childViewControllers]) [c removeFromParentViewController];
-  for (UIViewController *c in controllers) [self addChildViewController:c];
-  if ([self isViewLoaded]) [self _simShowColumns];
-}
-// Columns set before the view loads are shown when it does.
-- (void)viewDidLoad {
-  [super viewDidLoad];
-  [self _simShowColumns];
-}
-@end
-
-@interface _SimSettingsState : NSObject {
-  UIWindow *_window;
-  PSRootController *_rootController;
-  UINavigationController *_listNavigation;
-  NSArray *_rootSpecifiers;
-}
-@property(nonatomic, retain) UIWindow *window;
-@property(nonatomic, retain) PSRootController *rootController;
-@property(nonatomic, retain) UINavigationController *listNavigation;
-@property(nonatomic, copy) NSArray *rootSpecifiers;
-+ (instancetype)shared;
-@end
-@implementation _SimSettingsState
-@synthesize window = _window;
-@synthesize rootController = _rootController;
-@synthesize listNavigation = _listNavigation;
-@synthesize rootSpecifiers = _rootSpecifiers;
-+ (instancetype)shared {
-  static _SimSettingsState *state;
-  if (!state) state = [[_SimSettingsState alloc] init];
-  return state;
-}
-@end
-
-@implementation PrefsListController
-- (NSArray *)specifiers {
-  if (!_specifiers) {
-    NSArray *rows = [_SimSettingsState shared].rootSpecifiers;
-    _specifiers = [(rows ? rows : [NSArray array]) copy];
-  }
-  return _specifiers;
-}
-- (PSRootController *)rootController {
-  return SimSettingsRootController();
-}
-// A row of the Settings list opens its pane: the page becomes the pane's first page.
-- (void)pushController:(UIViewController *)controller animate:(BOOL)animate {
-  if (!controller) return;
-  PSRootController *pane = SimSettingsRootController();
-  if ([controller isKindOfClass:[PSViewController class]]) {
-    PSViewController *page = (PSViewController *)controller;
-    page.parentController = self;
-    page.rootController = pane;
-  }
-  [pane setViewControllers:[NSArray arrayWithObject:controller] animated:NO];
-  UINavigationController *list = [_SimSettingsState shared].listNavigation;
-  if ([pane parentViewController] == nil || [pane parentViewController] == list) {
-    if (list.topViewController != pane) {
-      [list popToRootViewControllerAnimated:NO];
-      [list _simPushNavigationController:pane animated:animate];
-    }
-  }
-}
-@end
-
-@implementation PreferencesAppController
-- (PSRootController *)rootController {
-  return SimSettingsRootController();
-}
-@end
-
-PSRootController *SimSettingsRootController(void) {
-  _SimSettingsState *state = [_SimSettingsState shared];
-  if (!state.rootController) {
-    PSRootController *pane = [[[PSRootController alloc] init] autorelease];
-    UINavigationController *listNavigation = [[[UINavigationController alloc] init] autorelease];
-    PrefsListController *list = [[[PrefsListController alloc] init] autorelease];
-    list.title = @"Settings";
-    list.rootController = pane;
-    pane.rootListController = list;
-    [listNavigation pushViewController:list animated:NO];
-    state.rootController = pane;
-    state.listNavigation = listNavigation;
-    UIViewController *top = listNavigation;
-    if ([[UIDevice currentDevice] userInterfaceIdiom] == UIUserInterfaceIdiomPad) {
-      PSSplitViewController *split = [[[PSSplitViewController alloc] init] autorelease];
-      [split setViewControllers:[NSArray arrayWithObjects:listNavigation, pane, nil]];
-      top = split;
-    }
-    UIWindow *window = [[[UIWindow alloc] initWithFrame:[UIScreen mainScreen].bounds] autorelease];
-    state.window = window;
-    window.rootViewController = top;
-    [window makeKeyAndVisible];
-  }
-  return state.rootController;
-}
-
-UIViewController *SimSettingsWindowRootController(void) {
-  SimSettingsRootController();
-  return [_SimSettingsState shared].window.rootViewController;
-}
-
-void SimSettingsSetRootSpecifiers(NSArray *specifiers) {
-  _SimSettingsState *state = [_SimSettingsState shared];
-  state.rootSpecifiers = specifiers;
-  [[state.rootController rootListController] reloadSpecifiers];
-}
-
-void SimSettingsReset(void) {
-  _SimSettingsState *state = [_SimSettingsState shared];
-  [state.window setRootViewController:nil];
-  state.window.hidden = YES;
-  state.window = nil;
-  state.rootController = nil;
-  state.listNavigation = nil;
-  state.rootSpecifiers = nil;
-  SimUIKitReset();
-}
-
 BOOL SimListControllerTapSpecifier(PSListController *controller, PSSpecifier *specifier) {
   if (!controller || !specifier || [[UIApplication sharedApplication] isIgnoringInteractionEvents]) return NO;
   [controller view];
@@ -878,19 +601,4 @@ BOOL SimListControllerTapSpecifier(PSListController *controller, PSSpecifier *sp
   }
   if (!cell.userInteractionEnabled) return NO;
   return SimTableViewSelectRow(table, path);
-}
-
-BOOL SimEditableListSwipeToDelete(PSListController *controller, PSSpecifier *specifier) {
-  if (!controller || !specifier || [[UIApplication sharedApplication] isIgnoringInteractionEvents]) return NO;
-  [controller view];
-  NSIndexPath *path = [controller indexPathForSpecifier:specifier];
-  UITableView *table = [controller table];
-  if (!path || !table) return NO;
-  // The swipe offers a delete button only for rows whose editing style is delete.
-  id<UITableViewDelegate> delegate = table.delegate;
-  UITableViewCellEditingStyle style = UITableViewCellEditingStyleDelete;
-  if ([delegate respondsToSelector:@selector(tableView:editingStyleForRowAtIndexPath:)])
-    style = [delegate tableView:table editingStyleForRowAtIndexPath:path];
-  if (style != UITableViewCellEditingStyleDelete) return NO;
-  return SimTableViewCommitEditing(table, UITableViewCellEditingStyleDelete, path);
 }

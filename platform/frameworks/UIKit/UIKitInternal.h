@@ -20,13 +20,26 @@ CGSize SimUIKitTextSize(NSString *text, UIFont *font, CGFloat maxWidth, NSIntege
 }
 #endif
 
-/* Owns a heap copy of a block (blocks are not objects under this runtime). */
-@interface _SimBlockBox : NSObject {
-  void (^_block)(void);
+/* What the stand-in records for tests (see UIKitSimulation.h), kept by UIKitSimulation.mm. */
+@interface _SimUIKitRecords : NSObject {
+  NSMutableArray *_sounds;
+  NSMutableArray *_urls;
+  NSMutableArray *_urlOptions;
+  NSMutableArray *_animations;
 }
-- (instancetype)initWithBlock:(void (^)(void))block;
-- (void)run;
+@property(nonatomic, readonly) NSMutableArray *sounds;
+@property(nonatomic, readonly) NSMutableArray *urls;
+@property(nonatomic, readonly) NSMutableArray *urlOptions;
+@property(nonatomic, readonly) NSMutableArray *animations;
 @end
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+_SimUIKitRecords *SimUIKitRecords(void);
+#ifdef __cplusplus
+}
+#endif
 
 @interface UIView (SimInternal)
 /* The controller whose view this is (not retained). */

@@ -1,137 +1,8 @@
-// Responders, touches, views, windows, gesture recognizers and block animations.
-#import <UIKit/UIKitSimulation.h>
-#include <math.h>
-
 #import "UIKitInternal.h"
+#include <math.h>
 
 const CGSize UILayoutFittingCompressedSize = {0, 0};
 const CGFloat UIViewNoIntrinsicMetric = -1;
-const UIWindowLevel UIWindowLevelNormal = 0;
-const UIWindowLevel UIWindowLevelAlert = 2000;
-const UIWindowLevel UIWindowLevelStatusBar = 1000;
-
-// The first responder, one per process as on the device.
-static UIResponder *gFirstResponder;
-
-UIResponder *SimUIKitFirstResponder(void) { return gFirstResponder; }
-
-void SimUIKitResetResponders(void) {
-  [gFirstResponder release];
-  gFirstResponder = nil;
-}
-
-@implementation UIResponder
-- (UIResponder *)nextResponder {
-  return nil;
-}
-- (BOOL)canBecomeFirstResponder {
-  return NO;
-}
-- (BOOL)canResignFirstResponder {
-  return YES;
-}
-- (BOOL)isFirstResponder {
-  return gFirstResponder == self;
-}
-- (BOOL)becomeFirstResponder {
-  if (gFirstResponder == self) return YES;
-  if (![self canBecomeFirstResponder]) return NO;
-  if (gFirstResponder && ![gFirstResponder canResignFirstResponder]) return NO;
-  if (gFirstResponder && ![gFirstResponder resignFirstResponder]) return NO;
-  gFirstResponder = [self retain];
-  return YES;
-}
-- (BOOL)resignFirstResponder {
-  if (gFirstResponder == self) {
-    gFirstResponder = nil;
-    [self autorelease];
-  }
-  return YES;
-}
-- (void)touchesBegan:(NSSet *)touches withEvent:(UIEvent *)event {
-  [[self nextResponder] touchesBegan:touches withEvent:event];
-}
-- (void)touchesMoved:(NSSet *)touches withEvent:(UIEvent *)event {
-  [[self nextResponder] touchesMoved:touches withEvent:event];
-}
-- (void)touchesEnded:(NSSet *)touches withEvent:(UIEvent *)event {
-  [[self nextResponder] touchesEnded:touches withEvent:event];
-}
-- (void)touchesCancelled:(NSSet *)touches withEvent:(UIEvent *)event {
-  [[self nextResponder] touchesCancelled:touches withEvent:event];
-}
-- (BOOL)canPerformAction:(SEL)action withSender:(id)sender {
-  return [self respondsToSelector:action];
-}
-@end
-
-@implementation UITouch
-@synthesize timestamp = _timestamp;
-@synthesize phase = _phase;
-@synthesize tapCount = _tapCount;
-@synthesize view = _view;
-@synthesize window = _window;
-- (instancetype)_simInitWithView:(UIView *)view windowLocation:(CGPoint)location {
-  if ((self = [super init])) {
-    _view = [view retain];
-    _window = [view.window retain];
-    _windowLocation = location;
-    _previousWindowLocation = location;
-    _tapCount = 1;
-    _timestamp = [NSDate timeIntervalSinceReferenceDate];
-  }
-  return self;
-}
-- (void)_simSetPhase:(UITouchPhase)phase {
-  _phase = phase;
-}
-- (void)dealloc {
-  [_view release];
-  [_window release];
-  [super dealloc];
-}
-- (CGPoint)locationInView:(UIView *)view {
-  return view ? [view convertPoint:_windowLocation fromView:nil] : _windowLocation;
-}
-- (CGPoint)previousLocationInView:(UIView *)view {
-  return view ? [view convertPoint:_previousWindowLocation fromView:nil] : _previousWindowLocation;
-}
-@end
-
-@implementation UIEvent
-@synthesize timestamp = _timestamp;
-- (instancetype)_simInitWithTouches:(NSSet *)touches {
-  if ((self = [super init])) {
-    _touches = [touches copy];
-    _timestamp = [NSDate timeIntervalSinceReferenceDate];
-  }
-  return self;
-}
-- (void)dealloc {
-  [_touches release];
-  [super dealloc];
-}
-- (UIEventType)type {
-  return UIEventTypeTouches;
-}
-- (NSSet *)allTouches {
-  return _touches;
-}
-- (NSSet *)touchesForView:(UIView *)view {
-  NSMutableSet *s = [NSMutableSet set];
-  for (UITouch *t in _touches)
-    if (t.view == view) [s addObject:t];
-  return s;
-}
-- (NSSet *)touchesForWindow:(UIWindow *)window {
-  NSMutableSet *s = [NSMutableSet set];
-  for (UITouch *t in _touches)
-    if (t.window == window) [s addObject:t];
-  return s;
-}
-@end
-
-// Views.
 
 @implementation UIView
 @synthesize tag = _tag;
@@ -221,7 +92,7 @@ void SimUIKitResetResponders(void) {
   _viewDelegate = controller;
 }
 
-// Geometry.
+#pragma mark - Geometry
 
 - (void)_simResizeSubviewsWithOldSize:(CGSize)old {
   CGSize now = self.bounds.size;
@@ -262,16 +133,20 @@ void SimUIKitResetResponders(void) {
     v.frame = f;
   }
 }
+// A new size lays the subviews out again.
+- (void)_simBoundsSizeChangedFrom:(CGSize)old {
+  if (!CGSizeEqualToSize(old, _layer.bounds.size)) {
+    [self _simResizeSubviewsWithOldSize:old];
+    [self setNeedsLayout];
+  }
+}
 - (CGRect)frame {
   return _layer.frame;
 }
 - (void)setFrame:(CGRect)frame {
   CGSize old = _layer.bounds.size;
   _layer.frame = frame;
-  if (!CGSizeEqualToSize(old, _layer.bounds.size)) {
-    [self _simResizeSubviewsWithOldSize:old];
-    [self setNeedsLayout];
-  }
+  [self _simBoundsSizeChangedFrom:old];
 }
 - (CGRect)bounds {
   return _layer.bounds;
@@ -279,10 +154,7 @@ void SimUIKitResetResponders(void) {
 - (void)setBounds:(CGRect)bounds {
   CGSize old = _layer.bounds.size;
   _layer.bounds = CGRectStandardize(bounds);
-  if (!CGSizeEqualToSize(old, _layer.bounds.size)) {
-    [self _simResizeSubviewsWithOldSize:old];
-    [self setNeedsLayout];
-  }
+  [self _simBoundsSizeChangedFrom:old];
 }
 - (CGPoint)center {
   return _layer.position;
@@ -356,7 +228,7 @@ void SimUIKitResetResponders(void) {
 - (void)traitCollectionDidChange:(UITraitCollection *)previousTraitCollection {
 }
 
-// Hierarchy.
+#pragma mark - Hierarchy
 
 - (UIView *)superview {
   return _superview;
@@ -419,7 +291,9 @@ void SimUIKitResetResponders(void) {
 - (void)addSubview:(UIView *)view {
   [self insertSubview:view atIndex:(view->_superview == self ? (NSInteger)_subviews.count - 1 : (NSInteger)_subviews.count)];
 }
-- (void)insertSubview:(UIView *)view belowSubview:(UIView *)sibling {
+// Just below or above `sibling`, counting places as if `view` had already left this view;
+// on top when `sibling` is not a subview.
+- (void)_simInsertSubview:(UIView *)view nextTo:(UIView *)sibling above:(BOOL)above {
   NSUInteger i = [_subviews indexOfObjectIdenticalTo:sibling];
   if (i == NSNotFound) {
     [self addSubview:view];
@@ -427,21 +301,17 @@ void SimUIKitResetResponders(void) {
   }
   NSUInteger mine = [_subviews indexOfObjectIdenticalTo:view];
   if (mine != NSNotFound && mine < i) --i;
-  [self insertSubview:view atIndex:i];
+  [self insertSubview:view atIndex:above ? i + 1 : i];
+}
+- (void)insertSubview:(UIView *)view belowSubview:(UIView *)sibling {
+  [self _simInsertSubview:view nextTo:sibling above:NO];
 }
 - (void)insertSubview:(UIView *)view aboveSubview:(UIView *)sibling {
-  NSUInteger i = [_subviews indexOfObjectIdenticalTo:sibling];
-  if (i == NSNotFound) {
-    [self addSubview:view];
-    return;
-  }
-  NSUInteger mine = [_subviews indexOfObjectIdenticalTo:view];
-  if (mine != NSNotFound && mine < i) --i;
-  [self insertSubview:view atIndex:i + 1];
+  [self _simInsertSubview:view nextTo:sibling above:YES];
 }
-- (void)exchangeSubviewAtIndex:(NSInteger)a withSubviewAtIndex:(NSInteger)b {
-  if (a < 0 || b < 0 || (NSUInteger)a >= _subviews.count || (NSUInteger)b >= _subviews.count || a == b) return;
-  [_subviews exchangeObjectAtIndex:a withObjectAtIndex:b];
+// Sublayers that belong to no subview stay at the back; the subviews' layers follow in
+// subview order.
+- (void)_simOrderLayersAsSubviews {
   NSMutableArray *layers = [NSMutableArray array];
   for (CALayer *l in _layer.sublayers) {
     BOOL isView = NO;
@@ -451,6 +321,11 @@ void SimUIKitResetResponders(void) {
   }
   for (UIView *v in _subviews) [layers addObject:v.layer];
   _layer.sublayers = layers;
+}
+- (void)exchangeSubviewAtIndex:(NSInteger)a withSubviewAtIndex:(NSInteger)b {
+  if (a < 0 || b < 0 || (NSUInteger)a >= _subviews.count || (NSUInteger)b >= _subviews.count || a == b) return;
+  [_subviews exchangeObjectAtIndex:a withObjectAtIndex:b];
+  [self _simOrderLayersAsSubviews];
 }
 // Moving a subview within its superview only reorders it: it does not leave its window,
 // and a view already in place is left alone (a cell that keeps its separator in front
@@ -461,15 +336,7 @@ void SimUIKitResetResponders(void) {
   [[view retain] autorelease];
   [_subviews removeObjectAtIndex:from];
   [_subviews insertObject:view atIndex:index];
-  NSMutableArray *layers = [NSMutableArray array];
-  for (CALayer *l in _layer.sublayers) {
-    BOOL isView = NO;
-    for (UIView *v in _subviews)
-      if (v.layer == l) isView = YES;
-    if (!isView) [layers addObject:l];
-  }
-  for (UIView *v in _subviews) [layers addObject:v.layer];
-  _layer.sublayers = layers;
+  [self _simOrderLayersAsSubviews];
 }
 - (void)bringSubviewToFront:(UIView *)view {
   if (_subviews.count > 0) [self _simMoveSubview:view toIndex:_subviews.count - 1];
@@ -485,9 +352,9 @@ void SimUIKitResetResponders(void) {
   [parent willRemoveSubview:self];
   [self willMoveToSuperview:nil];
   [self _simNotifyWindowChangeFrom:oldWindow to:nil before:YES];
-  if (gFirstResponder && [gFirstResponder isKindOfClass:[UIView class]] &&
-      [(UIView *)gFirstResponder isDescendantOfView:self])
-    [gFirstResponder resignFirstResponder];
+  if (SimUIKitFirstResponder() && [SimUIKitFirstResponder() isKindOfClass:[UIView class]] &&
+      [(UIView *)SimUIKitFirstResponder() isDescendantOfView:self])
+    [SimUIKitFirstResponder() resignFirstResponder];
   _superview = nil;
   [parent->_subviews removeObjectIdenticalTo:self];
   [_layer removeFromSuperlayer];
@@ -525,7 +392,7 @@ void SimUIKitResetResponders(void) {
   return _superview;
 }
 
-// Layout and drawing.
+#pragma mark - Layout and drawing
 
 - (void)setNeedsLayout {
   [_layer setNeedsLayout];
@@ -570,12 +437,12 @@ void SimUIKitResetResponders(void) {
 - (void)invalidateIntrinsicContentSize {
 }
 - (BOOL)endEditing:(BOOL)force {
-  if ([gFirstResponder isKindOfClass:[UIView class]] && [(UIView *)gFirstResponder isDescendantOfView:self])
-    return [gFirstResponder resignFirstResponder];
+  if ([SimUIKitFirstResponder() isKindOfClass:[UIView class]] && [(UIView *)SimUIKitFirstResponder() isDescendantOfView:self])
+    return [SimUIKitFirstResponder() resignFirstResponder];
   return YES;
 }
 
-// Coordinates.
+#pragma mark - Coordinates
 
 - (CGPoint)convertPoint:(CGPoint)point toView:(UIView *)view {
   return [_layer convertPoint:point toLayer:view ? view.layer : nil];
@@ -610,7 +477,7 @@ void SimUIKitResetResponders(void) {
   return self;
 }
 
-// Gesture recognizers.
+#pragma mark - Gesture recognizers
 
 - (NSArray *)gestureRecognizers {
   return _gestureRecognizers.count ? [NSArray arrayWithArray:_gestureRecognizers] : nil;
@@ -633,245 +500,7 @@ void SimUIKitResetResponders(void) {
 }
 @end
 
-// Animations.
-
-static NSInteger gAnimationsDisabled;
-
-@implementation UIView (UIViewAnimationWithBlocks)
-+ (void)animateWithDuration:(NSTimeInterval)duration delay:(NSTimeInterval)delay options:(UIViewAnimationOptions)options
-                 animations:(void (^)(void))animations completion:(void (^)(BOOL finished))completion {
-  SimUIKitRecordAnimation(duration, delay, options);
-  if (animations) animations();
-  if (completion) {
-    SimUIKitSchedule(delay + duration, ^{
-      completion(YES);
-    });
-  }
-}
-+ (void)animateWithDuration:(NSTimeInterval)duration animations:(void (^)(void))animations
-                 completion:(void (^)(BOOL finished))completion {
-  [self animateWithDuration:duration delay:0 options:0 animations:animations completion:completion];
-}
-+ (void)animateWithDuration:(NSTimeInterval)duration animations:(void (^)(void))animations {
-  [self animateWithDuration:duration delay:0 options:0 animations:animations completion:nil];
-}
-+ (void)animateWithDuration:(NSTimeInterval)duration delay:(NSTimeInterval)delay
-     usingSpringWithDamping:(CGFloat)dampingRatio initialSpringVelocity:(CGFloat)velocity
-                    options:(UIViewAnimationOptions)options animations:(void (^)(void))animations
-                 completion:(void (^)(BOOL finished))completion {
-  [self animateWithDuration:duration delay:delay options:options animations:animations completion:completion];
-}
-+ (void)transitionWithView:(UIView *)view duration:(NSTimeInterval)duration options:(UIViewAnimationOptions)options
-                animations:(void (^)(void))animations completion:(void (^)(BOOL finished))completion {
-  [self animateWithDuration:duration delay:0 options:options animations:animations completion:completion];
-}
-+ (void)transitionFromView:(UIView *)fromView toView:(UIView *)toView duration:(NSTimeInterval)duration
-                   options:(UIViewAnimationOptions)options completion:(void (^)(BOOL finished))completion {
-  [self animateWithDuration:duration delay:0 options:options animations:^{
-    UIView *parent = fromView.superview;
-    if (options & UIViewAnimationOptionShowHideTransitionViews) {
-      fromView.hidden = YES;
-      toView.hidden = NO;
-    } else if (parent) {
-      [parent insertSubview:toView aboveSubview:fromView];
-      [fromView removeFromSuperview];
-    }
-  } completion:completion];
-}
-+ (void)performWithoutAnimation:(void (^)(void))actions {
-  ++gAnimationsDisabled;
-  if (actions) actions();
-  --gAnimationsDisabled;
-}
-+ (void)setAnimationsEnabled:(BOOL)enabled {
-  gAnimationsDisabled = enabled ? 0 : 1;
-}
-+ (BOOL)areAnimationsEnabled {
-  return gAnimationsDisabled == 0;
-}
-@end
-
-// Windows.
-
-@implementation UIWindow
-@synthesize windowLevel = _windowLevel;
-- (instancetype)initWithFrame:(CGRect)frame {
-  if ((self = [super initWithFrame:frame])) SimUIKitRegisterWindow(self);
-  return self;
-}
-- (instancetype)init {
-  return [self initWithFrame:[UIScreen mainScreen].bounds];
-}
-- (void)dealloc {
-  [_rootViewController release];
-  [super dealloc];
-}
-- (UIScreen *)screen {
-  return [UIScreen mainScreen];
-}
-- (void)setScreen:(UIScreen *)screen {
-}
-- (UIViewController *)rootViewController {
-  return _rootViewController;
-}
-- (void)setRootViewController:(UIViewController *)controller {
-  if (controller == _rootViewController) return;
-  UIViewController *old = _rootViewController;
-  BOOL visible = !self.hidden && _keyWindow;
-  if (old) {
-    if (visible) [old _simBeginAppearance:NO animated:NO];
-    if ([old isViewLoaded]) [old.view removeFromSuperview];
-    if (visible) [old _simEndAppearance:NO animated:NO];
-  }
-  _rootViewController = [controller retain];
-  if (controller) {
-    UIView *v = controller.view;
-    v.frame = self.bounds;
-    v.autoresizingMask = UIViewAutoresizingFlexibleWidth | UIViewAutoresizingFlexibleHeight;
-    if (visible) [controller _simBeginAppearance:YES animated:NO];
-    [self addSubview:v];
-    if (visible) [controller _simEndAppearance:YES animated:NO];
-  }
-  [old release];
-}
-- (BOOL)isKeyWindow {
-  return _keyWindow;
-}
-- (void)makeKeyWindow {
-  SimUIKitSetKeyWindow(self);
-}
-- (void)becomeKeyWindow {
-  _keyWindow = YES;
-}
-- (void)resignKeyWindow {
-  _keyWindow = NO;
-}
-- (void)makeKeyAndVisible {
-  BOOL wasVisible = _keyWindow && !self.hidden;
-  self.hidden = NO;
-  [self makeKeyWindow];
-  if (!wasVisible && _rootViewController && ![_rootViewController _simIsAppeared]) {
-    [_rootViewController _simBeginAppearance:YES animated:NO];
-    [_rootViewController _simEndAppearance:YES animated:NO];
-  }
-}
-- (UIResponder *)nextResponder {
-  return [UIApplication sharedApplication];
-}
-- (UIWindow *)window {
-  return self;
-}
-@end
-
-// Gesture recognizers.
-
-@implementation UIGestureRecognizer
-@synthesize state = _state;
-@synthesize delegate = _delegate;
-@synthesize enabled = _enabled;
-@synthesize view = _view;
-@synthesize cancelsTouchesInView = _cancelsTouchesInView;
-@synthesize delaysTouchesBegan = _delaysTouchesBegan;
-@synthesize delaysTouchesEnded = _delaysTouchesEnded;
-@synthesize numberOfTouches = _numberOfTouches;
-- (instancetype)init {
-  return [self initWithTarget:nil action:NULL];
-}
-- (instancetype)initWithTarget:(id)target action:(SEL)action {
-  if ((self = [super init])) {
-    _targets = [[NSMutableArray alloc] init];
-    _enabled = YES;
-    _cancelsTouchesInView = YES;
-    _delaysTouchesEnded = YES;
-    [self addTarget:target action:action];
-  }
-  return self;
-}
-- (void)dealloc {
-  [_targets release];
-  [super dealloc];
-}
-- (void)_simSetView:(UIView *)view {
-  _view = view;
-}
-- (void)addTarget:(id)target action:(SEL)action {
-  if (!target || !action) return;
-  [_targets addObject:[NSArray arrayWithObjects:[NSValue valueWithNonretainedObject:target],
-                                                NSStringFromSelector(action), nil]];
-}
-- (void)removeTarget:(id)target action:(SEL)action {
-  for (NSArray *pair in [[_targets copy] autorelease]) {
-    id t = [[pair objectAtIndex:0] nonretainedObjectValue];
-    if ((!target || t == target) && (!action || [[pair objectAtIndex:1] isEqualToString:NSStringFromSelector(action)]))
-      [_targets removeObject:pair];
-  }
-}
-- (void)requireGestureRecognizerToFail:(UIGestureRecognizer *)other {
-}
-- (CGPoint)locationInView:(UIView *)view {
-  return view ? [view convertPoint:_windowLocation fromView:nil] : _windowLocation;
-}
-- (CGPoint)locationOfTouch:(NSUInteger)touchIndex inView:(UIView *)view {
-  return [self locationInView:view];
-}
-- (BOOL)_simAcceptsTaps:(NSUInteger)taps touches:(NSUInteger)touches {
-  return NO;
-}
-// Recognizes a finished tap at `windowLocation`; returns YES when it fired.
-- (BOOL)_simRecognizeTap:(UITouch *)touch {
-  if (!_enabled || ![self _simAcceptsTaps:1 touches:1]) return NO;
-  if ([_delegate respondsToSelector:@selector(gestureRecognizer:shouldReceiveTouch:)] &&
-      ![_delegate gestureRecognizer:self shouldReceiveTouch:touch])
-    return NO;
-  _windowLocation = [touch locationInView:nil];
-  _numberOfTouches = 1;
-  if ([_delegate respondsToSelector:@selector(gestureRecognizerShouldBegin:)] &&
-      ![_delegate gestureRecognizerShouldBegin:self]) {
-    _state = UIGestureRecognizerStateFailed;
-    _state = UIGestureRecognizerStatePossible;
-    return NO;
-  }
-  _state = UIGestureRecognizerStateEnded;
-  [[self retain] autorelease];
-  for (NSArray *pair in [[_targets copy] autorelease]) {
-    id target = [[pair objectAtIndex:0] nonretainedObjectValue];
-    SEL action = NSSelectorFromString([pair objectAtIndex:1]);
-    [target performSelector:action withObject:self];
-  }
-  _state = UIGestureRecognizerStatePossible;
-  _numberOfTouches = 0;
-  return YES;
-}
-@end
-
-@implementation UITapGestureRecognizer
-@synthesize numberOfTapsRequired = _numberOfTapsRequired;
-@synthesize numberOfTouchesRequired = _numberOfTouchesRequired;
-- (instancetype)initWithTarget:(id)target action:(SEL)action {
-  if ((self = [super initWithTarget:target action:action])) {
-    _numberOfTapsRequired = 1;
-    _numberOfTouchesRequired = 1;
-  }
-  return self;
-}
-- (BOOL)_simAcceptsTaps:(NSUInteger)taps touches:(NSUInteger)touches {
-  return taps == _numberOfTapsRequired && touches == _numberOfTouchesRequired;
-}
-@end
-
-@implementation UILongPressGestureRecognizer
-@synthesize minimumPressDuration = _minimumPressDuration;
-@synthesize allowableMovement = _allowableMovement;
-- (instancetype)initWithTarget:(id)target action:(SEL)action {
-  if ((self = [super initWithTarget:target action:action])) {
-    _minimumPressDuration = 0.5;
-    _allowableMovement = 10;
-  }
-  return self;
-}
-@end
-
-// Taps.
+#pragma mark - Taps
 
 BOOL SimTapView(UIView *view, CGPoint point) {
   if (!view || [[UIApplication sharedApplication] isIgnoringInteractionEvents]) return NO;

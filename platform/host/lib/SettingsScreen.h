@@ -2,23 +2,13 @@
 // with the numbered things on it that commands can act on.
 #pragma once
 #import <Foundation/Foundation.h>
+#import "SettingsScreenItem.h"
 
 @class PSSpecifier;
 @class UIViewController;
 @class UIAlertController;
 @class UIView;
 @class UINavigationController;
-
-// One numbered thing on the screen: a row, or the link in a group's footer.
-@interface SettingsScreenItem : NSObject {
-  PSSpecifier *_specifier;
-  UIViewController *_controller;
-  BOOL _footerLink;
-}
-@property(nonatomic, retain) PSSpecifier *specifier;
-@property(nonatomic, assign) UIViewController *controller;  // the page showing it
-@property(nonatomic, assign) BOOL footerLink;
-@end
 
 @interface SettingsScreen : NSObject {
   NSString *_text;

@@ -21,17 +21,6 @@ enum : long {
 
 static const NSUInteger kScreenWidth = 78;
 
-@implementation SettingsScreenItem
-@synthesize specifier = _specifier;
-@synthesize controller = _controller;
-@synthesize footerLink = _footerLink;
-
-- (void)dealloc {
-  [_specifier release];
-  [super dealloc];
-}
-@end
-
 #pragma mark - Text helpers
 
 // Columns a character takes in a terminal: none for combining marks and invisible format

@@ -3,7 +3,13 @@
 #import <Preferences/PSListController.h>
 #import <Preferences/PSEditableListController.h>
 #import <Preferences/PSTableCell.h>
+#import <Preferences/PSControlTableCell.h>
 #import <Preferences/PSSwitchTableCell.h>
+#import <Preferences/PSSubtitleSwitchTableCell.h>
+#import <Preferences/PSSegmentableSlider.h>
+#import <Preferences/PSSliderTableCell.h>
+#import <Preferences/PSSegmentTableCell.h>
+#import <Preferences/PSEditableTableCell.h>
 #import <Preferences/PSHeaderFooterView.h>
 #import <Preferences/PSFooterHyperlinkView.h>
 #import <Preferences/PSPasscodeField.h>

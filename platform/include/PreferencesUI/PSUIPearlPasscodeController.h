@@ -1,1 +1,11 @@
-#import <PreferencesUI/PSBiometricSettingsControllers.h>
+#ifndef PREFERENCESUI_PSUIPEARLPASSCODECONTROLLER_H
+#define PREFERENCESUI_PSUIPEARLPASSCODECONTROLLER_H
+
+#import <PreferencesUI/PSUIBiometricSettingsControllerBase.h>
+
+/* The Face ID & Passcode page. */
+@interface PSUIPearlPasscodeController : PSUIBiometricSettingsControllerBase
+- (NSData *)authorizationToken;
+@end
+
+#endif

@@ -8,5 +8,6 @@
 #include <QuartzCore/CATransaction.h>
 #include <QuartzCore/CALayer.h>
 #include <QuartzCore/CAShapeLayer.h>
+#include <QuartzCore/CAGradientLayer.h>
 
 #endif

@@ -50,20 +50,4 @@ typedef NS_ENUM(NSInteger, UIGestureRecognizerState){
 - (CGPoint)locationOfTouch:(NSUInteger)touchIndex inView:(UIView *)view;
 @end
 
-@interface UITapGestureRecognizer : UIGestureRecognizer {
-  NSUInteger _numberOfTapsRequired;
-  NSUInteger _numberOfTouchesRequired;
-}
-@property(nonatomic) NSUInteger numberOfTapsRequired;
-@property(nonatomic) NSUInteger numberOfTouchesRequired;
-@end
-
-@interface UILongPressGestureRecognizer : UIGestureRecognizer {
-  NSTimeInterval _minimumPressDuration;
-  CGFloat _allowableMovement;
-}
-@property(nonatomic) NSTimeInterval minimumPressDuration;
-@property(nonatomic) CGFloat allowableMovement;
-@end
-
 #endif

@@ -2,7 +2,6 @@
 #define UIKIT_UISCROLLVIEW_H
 
 #import <UIKit/UIView.h>
-#import <UIKit/NSText.h>
 
 typedef NS_ENUM(NSInteger, UIScrollViewKeyboardDismissMode){
     UIScrollViewKeyboardDismissModeNone,
@@ -45,22 +44,6 @@ typedef NS_ENUM(NSInteger, UIScrollViewKeyboardDismissMode){
 @property(nonatomic) UIScrollViewKeyboardDismissMode keyboardDismissMode;
 - (void)setContentOffset:(CGPoint)contentOffset animated:(BOOL)animated;
 - (void)scrollRectToVisible:(CGRect)rect animated:(BOOL)animated;
-@end
-
-@interface UITextView : UIScrollView <UIKeyInput> {
-  NSString *_text;
-  id _font;
-  id _textColor;
-  NSTextAlignment _textAlignment;
-  BOOL _editable;
-  BOOL _selectable;
-}
-@property(nonatomic, copy) NSString *text;
-@property(nonatomic, retain) id font;
-@property(nonatomic, retain) id textColor;
-@property(nonatomic) NSTextAlignment textAlignment;
-@property(nonatomic, getter=isEditable) BOOL editable;
-@property(nonatomic, getter=isSelectable) BOOL selectable;
 @end
 
 #endif

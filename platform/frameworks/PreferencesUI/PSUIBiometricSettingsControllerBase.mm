@@ -1,5 +1,5 @@
 // The system's biometric settings pages, unlocked with the profile's device passcode.
-#import <PreferencesUI/PSBiometricSettingsControllers.h>
+#import <PreferencesUI/PSUIBiometricSettingsControllerBase.h>
 #import <Preferences/PSSpecifier.h>
 #import "Simulator/SimInternal.h"
 
@@ -73,20 +73,4 @@ extern "C" BOOL SimSystemControllerAvailable(NSString *className)
     return _specifiers;
 }
 
-@end
-
-@implementation PSUIPearlPasscodeController
-- (NSData *)authorizationToken
-{
-    return [self _authorizationToken];
-}
-@end
-
-@implementation PSMesaSettingsController
-@end
-
-@implementation PSTouchIDPasscodeController
-@end
-
-@implementation PSUITouchIDPasscodeController
 @end

@@ -8,8 +8,8 @@
  * hardware, the three fingerprint ones on a device with Touch ID, none without a
  * biometric sensor. On a device without one, +alloc gives nil.
  */
-#ifndef PREFERENCESUI_PSBIOMETRICSETTINGSCONTROLLERS_H
-#define PREFERENCESUI_PSBIOMETRICSETTINGSCONTROLLERS_H
+#ifndef PREFERENCESUI_PSUIBIOMETRICSETTINGSCONTROLLERBASE_H
+#define PREFERENCESUI_PSUIBIOMETRICSETTINGSCONTROLLERBASE_H
 
 #import <Preferences/PSListController.h>
 
@@ -18,19 +18,6 @@
 }
 /* The token that unlocks the page; nil until the right passcode was given. */
 - (NSData *)_authorizationToken;
-@end
-
-@interface PSUIPearlPasscodeController : PSUIBiometricSettingsControllerBase
-- (NSData *)authorizationToken;
-@end
-
-@interface PSMesaSettingsController : PSUIBiometricSettingsControllerBase
-@end
-
-@interface PSTouchIDPasscodeController : PSUIBiometricSettingsControllerBase
-@end
-
-@interface PSUITouchIDPasscodeController : PSUIBiometricSettingsControllerBase
 @end
 
 #ifdef __cplusplus

@@ -1,0 +1,7 @@
+#import <Preferences/PreferencesSimulation.h>
+
+@implementation PreferencesAppController
+- (PSRootController *)rootController {
+  return SimSettingsRootController();
+}
+@end

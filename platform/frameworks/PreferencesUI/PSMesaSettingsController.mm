@@ -1,0 +1,4 @@
+#import <PreferencesUI/PSMesaSettingsController.h>
+
+@implementation PSMesaSettingsController
+@end

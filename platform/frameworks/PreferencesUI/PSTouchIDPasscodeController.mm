@@ -1,0 +1,4 @@
+#import <PreferencesUI/PSTouchIDPasscodeController.h>
+
+@implementation PSTouchIDPasscodeController
+@end

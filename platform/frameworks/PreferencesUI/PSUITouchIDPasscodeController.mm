@@ -1,0 +1,4 @@
+#import <PreferencesUI/PSUITouchIDPasscodeController.h>
+
+@implementation PSUITouchIDPasscodeController
+@end
