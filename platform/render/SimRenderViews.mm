@@ -160,8 +160,8 @@ CGSize drawText(cairo_t *cr, NSString *text, SimTextFont font, Rgba colour, CGRe
   CGFloat x = box.origin.x;
   // An unwrapped line (no width given to the layout) is placed by its alignment here.
   if (pango_layout_get_width(layout) < 0 && width > 0) {
-    bool rtl = pango_layout_get_auto_dir(layout) &&
-               pango_find_base_dir([text UTF8String], -1) == PANGO_DIRECTION_RTL;
+    PangoLayoutLine *line = pango_layout_get_line_readonly(layout, 0);
+    bool rtl = pango_layout_get_auto_dir(layout) && line != NULL && line->resolved_dir == PANGO_DIRECTION_RTL;
     if (alignment == SimTextAlignCenter) x += (width - size.width) / 2;
     if (alignment == SimTextAlignRight || (alignment == SimTextAlignNatural && rtl)) x += width - size.width;
   }
@@ -172,47 +172,11 @@ CGSize drawText(cairo_t *cr, NSString *text, SimTextFont font, Rgba colour, CGRe
 
 #pragma mark - Images
 
-// A stable colour for a name: application icons known only by bundle identifier.
-static Rgba colourForName(NSString *name) {
-  static const Rgba palette[] = {{0.20, 0.60, 0.98, 1}, {0.30, 0.78, 0.40, 1}, {1.00, 0.58, 0.00, 1},
-                                 {0.98, 0.26, 0.36, 1}, {0.56, 0.36, 0.90, 1}, {0.35, 0.35, 0.40, 1},
-                                 {0.00, 0.70, 0.75, 1}, {1.00, 0.80, 0.00, 1}};
-  unsigned hash = 5381;
-  const char *s = [name UTF8String];
-  for (; s != NULL && *s != '\0'; s++) hash = hash * 33 + (unsigned char)*s;
-  return palette[hash % (sizeof palette / sizeof palette[0])];
-}
-
-// Images the stand-in knows only by what they show (application icons, pane icons): a
-// rounded square in a colour of their own with the name's first letter, as a placeholder.
-static void drawNamedPlaceholder(Canvas &canvas, NSString *what, CGRect rect) {
-  cairo_t *cr = canvas.cr;
-  NSString *name = what;
-  NSRange colon = [name rangeOfString:@":"];
-  if (colon.location != NSNotFound) name = [name substringFromIndex:NSMaxRange(colon)];
-  if ([name hasPrefix:@"icon("]) name = [name substringFromIndex:5];
-  NSString *shown = [[name componentsSeparatedByString:@"."] lastObject];
-  if ([shown length] == 0) shown = name;
-  Rgba colour = colourForName(name);
-  cairo_save(cr);
-  roundedRect(cr, rect, rect.size.width * 0.225);
-  setSource(cr, colour);
-  cairo_fill(cr);
-  NSString *letter = [shown length] > 0 ? [[shown substringToIndex:1] uppercaseString] : @"?";
-  drawText(cr, letter, systemFont(rect.size.height * 0.55, 600), Rgba{1, 1, 1, 1}, rect, SimTextAlignCenter, 1, true,
-           false);
-  cairo_restore(cr);
-}
-
 void drawImage(Canvas &canvas, UIImage *image, CGRect rect, const Rgba *tint) {
   if (image == nil || rect.size.width <= 0 || rect.size.height <= 0) return;
   cairo_t *cr = canvas.cr;
   cairo_surface_t *pixels = SimCGImageSurface([image CGImage]);
-  if (pixels == NULL) {
-    NSString *what = [image _simDescription];
-    if ([what length] > 0) drawNamedPlaceholder(canvas, what, rect);
-    return;
-  }
+  if (pixels == NULL) return;
   int w = cairo_image_surface_get_width(pixels), h = cairo_image_surface_get_height(pixels);
   if (w <= 0 || h <= 0) return;
   cairo_save(cr);

@@ -62,12 +62,27 @@ NSArray *SimTextEndRecording(void);
 
 /* Appends the path's elements to cairo's current path (user space of `cr`). */
 void SimCGAppendPathToCairo(cairo_t *cr, CGPathRef path);
-/* The image's pixels (ARGB32, premultiplied), or NULL for an image known only by what it
-   shows (an application icon of the stand-in). The image keeps them. */
+/* The image's pixels (ARGB32, premultiplied), decoded when first asked for; NULL when it has
+   none (not a PNG). Images known only by what they show ("appicon:<id>", "settings:<pane>")
+   get a stand-in picture. The image keeps them. */
 cairo_surface_t *SimCGImageSurface(CGImageRef image);
+/* Where the image's pixels come from: a PNG file or PNG data. */
+void SimCGImageSetSource(CGImageRef image, NSString *file, NSData *data);
+/* An icon made from another image: its pixels scaled into the icon's size, corners rounded. */
+void SimCGImageSetIconSource(CGImageRef icon, CGImageRef source);
+/* An image of the surface's pixels (referenced, not copied). Caller releases. */
+CGImageRef SimCGImageCreateWithSurface(cairo_surface_t *surface, NSString *description, NSArray *operations);
+/* A stand-in picture for a name (a coloured rounded square with its first letter). */
+cairo_surface_t *SimCGCreateNamedPicture(NSString *name, size_t width, size_t height);
+
 /* A context drawing onto `cr` as it stands (its matrix, clip and target), for a view's own
-   drawing inside a larger picture. `scale`: device pixels per point. Caller releases. */
+   drawing inside a larger picture; it records as other contexts do. Caller releases. */
 CGContextRef SimCGContextCreateForCairo(cairo_t *cr, CGFloat scale);
+/* The cairo context behind a context, its user space the context's current one; NULL for a
+   context without pixels. */
+cairo_t *SimCGContextCairo(CGContextRef c);
+/* A copy of an image context's pixels, or NULL. Caller destroys it. */
+cairo_surface_t *SimCGContextCopySurface(CGContextRef c);
 
 /* The user's languages decide which face draws characters shared by several scripts (CJK). */
 void SimTextSetLanguage(NSString *language);
