@@ -39,10 +39,21 @@ bool standardLayout(UITableViewCell *cell) {
          own == [PSTableCell instanceMethodForSelector:@selector(layoutSubviews)];
 }
 
+// Rows whose control spans the row (sliders, segmented choices): the device shows the control
+// alone, from margin to margin, without the row's title.
+bool controlSpansRow(UITableViewCell *cell) {
+  return [cell isKindOfClass:[PSSliderTableCell class]] || [cell isKindOfClass:[PSSegmentTableCell class]];
+}
+
+// A text row without a name is its field alone (the stand-in's label repeats the field's text).
+bool fieldOnly(UITableViewCell *cell) {
+  return [cell isKindOfClass:[PSEditableTableCell class]] && [[[(PSTableCell *)cell specifier] name] length] == 0;
+}
+
 NSString *rowTitle(UITableViewCell *cell) {
+  if (controlSpansRow(cell) || fieldOnly(cell) || [[cell textLabel] isHidden]) return nil;
   NSString *title = [[cell textLabel] text];
-  if ([title length] == 0 && [cell isKindOfClass:[PSTableCell class]]) title = [[(PSTableCell *)cell specifier] name];
-  return title;
+  return [title length] > 0 ? title : nil;
 }
 
 void drawChevron(Canvas &canvas, double right, double cy, bool dark) {
@@ -174,8 +185,8 @@ void drawCell(Canvas &canvas, UITableView *table, UITableViewCell *cell, CGRect 
       drawImage(canvas, [iconView image], parts.icon, &tint);
     }
     bool subtitle = [cell style] == UITableViewCellStyleSubtitle;
-    drawLabelIn(canvas, [cell textLabel], parts.title, false);
-    if ([cell detailTextLabel] != nil) {
+    if (!controlSpansRow(cell)) drawLabelIn(canvas, [cell textLabel], parts.title, false);
+    if ([cell detailTextLabel] != nil && !controlSpansRow(cell)) {
       UILabel *detail = [cell detailTextLabel];
       Rgba colour = rgbaOf([detail textColor], secondaryLabelColour());
       if (![detail isEnabled]) colour = tertiaryLabelColour();
@@ -191,15 +202,23 @@ void drawCell(Canvas &canvas, UITableView *table, UITableViewCell *cell, CGRect 
     separatorX = parts.textX;
   } else {
     // The product lays the cell out itself: drawn as laid out.
+    UILabel *hiddenTitle = fieldOnly(cell) ? [cell textLabel] : nil;
+    bool shown = hiddenTitle != nil && ![hiddenTitle isHidden];
+    if (shown) [hiddenTitle setHidden:YES];
     for (UIView *subview in [cell subviews]) {
       if (subview == accessory || subview == [cell backgroundView]) continue;
       drawView(canvas, subview);
     }
+    if (shown) [hiddenTitle setHidden:NO];
     if ([[[cell textLabel] text] length] > 0) separatorX = fmax([[cell textLabel] frame].origin.x, margin);
   }
 
   double right = size.width - margin;
-  if (accessory != nil && ![accessory isHidden]) {
+  if (accessory != nil && ![accessory isHidden] && controlSpansRow(cell) && standardLayout(cell)) {
+    CGSize own = [accessory frame].size;
+    TemporaryWidth wide(accessory, size.width - 2 * margin, own.height);
+    drawViewAt(canvas, accessory, CGPointMake(margin, floor((size.height - own.height) / 2)));
+  } else if (accessory != nil && ![accessory isHidden]) {
     CGRect frame = [accessory frame];
     drawViewAt(canvas, accessory, CGPointMake(right - frame.size.width, floor((size.height - frame.size.height) / 2)));
   } else if (type == UITableViewCellAccessoryDisclosureIndicator) {

@@ -218,6 +218,12 @@ static void performOn(id target, SEL action, id argument) {
   }
   id target = SettingsScreenRowTarget(specifier, page);
   SEL setter = SettingsScreenRowSelector(specifier, "setter");
+  // The finger moves the row's switch first; then the row stores the value.
+  if ([page isKindOfClass:[PSListController class]]) {
+    id cell = [(PSListController *)page cachedCellForSpecifier:specifier];
+    id control = [cell respondsToSelector:@selector(control)] ? [cell control] : nil;
+    if ([control isKindOfClass:[UISwitch class]]) [(UISwitch *)control setOn:[value boolValue] animated:NO];
+  }
   @try {
     if (setter != NULL && [target respondsToSelector:setter]) {
       [target performSelector:setter withObject:value withObject:specifier];
