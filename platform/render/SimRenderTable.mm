@@ -262,6 +262,14 @@ NSString *footerTitle(UITableView *table, NSInteger section) {
   return [source tableView:table titleForFooterInSection:section];
 }
 
+// The height the table gives a section's header (UIKit's own measure of it).
+double headerHeight(UITableView *table, NSInteger section) {
+  SEL measure = NSSelectorFromString(@"_simHeightForHeader:");
+  if (![table respondsToSelector:measure]) return 0;
+  typedef CGFloat (*Measure)(id, SEL, NSInteger);
+  return ((Measure)[table methodForSelector:measure])(table, measure, section);
+}
+
 // A header or footer view of the delegate's, laid out at the column's width.
 void drawSectionView(Canvas &canvas, UIView *view, CGRect rect) {
   if (view == nil || rect.size.height <= 0) return;
@@ -298,7 +306,10 @@ void drawTable(Canvas &canvas, UITableView *table, CGRect column, CGFloat conten
     if (originY + sectionRect.origin.y > bottom) break;
     NSInteger rows = [table numberOfRowsInSection:section];
     double rowsTop = sectionRect.origin.y, rowsBottom = CGRectGetMaxY(sectionRect);
-    if (rows > 0) {
+    if (rows == 0) {
+      // A section without rows: its header's height says where its footer starts.
+      rowsTop = rowsBottom = sectionRect.origin.y + headerHeight(table, section);
+    } else {
       rowsTop = [table rectForRowAtIndexPath:[NSIndexPath indexPathForRow:0 inSection:section]].origin.y;
       rowsBottom = CGRectGetMaxY([table rectForRowAtIndexPath:[NSIndexPath indexPathForRow:rows - 1 inSection:section]]);
     }

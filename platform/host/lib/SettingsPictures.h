@@ -5,8 +5,8 @@
 @class SettingsConsole;
 
 // Writes what the screen shows now to `path` (a PNG). `fullPage`: the whole page on top,
-// however long. Returns nil, or what went wrong.
-NSString *SettingsWriteScreenshot(NSString *path, BOOL fullPage);
+// however long; `scale` > 0: at that scale instead of the screen's. Returns nil, or what went wrong.
+NSString *SettingsWriteScreenshot(NSString *path, BOOL fullPage, CGFloat scale);
 
 // Opens every page the product has, from its root page (each row, the pages and alerts they
 // open, and the rows of those pages in turn) and writes one picture of each into `folder`,

@@ -7,7 +7,7 @@
 
 #import "SimRender.h"
 
-NSString *SettingsWriteScreenshot(NSString *path, BOOL fullPage) {
+NSString *SettingsWriteScreenshot(NSString *path, BOOL fullPage, CGFloat scale) {
   if ([path length] == 0) return @"Say where: screenshot FILE.png";
   NSString *folder = [path stringByDeletingLastPathComponent];
   if ([folder length] > 0) {
@@ -15,7 +15,7 @@ NSString *SettingsWriteScreenshot(NSString *path, BOOL fullPage) {
   }
   SimScreenPicture *picture = SimRenderSettingsScreen(fullPage);
   if (picture == nil) return @"The screen could not be drawn.";
-  return [picture writePNGToFile:path scale:0] ? nil : [NSString stringWithFormat:@"Cannot write %@.", path];
+  return [picture writePNGToFile:path scale:scale] ? nil : [NSString stringWithFormat:@"Cannot write %@.", path];
 }
 
 #pragma mark - Gallery
@@ -93,7 +93,7 @@ static const int kDeepest = 3;
   if (_count >= kMostPictures) return;
   _count++;
   NSString *file = [NSString stringWithFormat:@"%03lu.png", (unsigned long)_count];
-  NSString *failure = SettingsWriteScreenshot([_folder stringByAppendingPathComponent:file], NO);
+  NSString *failure = SettingsWriteScreenshot([_folder stringByAppendingPathComponent:file], NO, 0);
   NSString *oneLine = [[name componentsSeparatedByCharactersInSet:[NSCharacterSet newlineCharacterSet]]
       componentsJoinedByString:@" "];
   oneLine = [oneLine stringByReplacingOccurrencesOfString:@"\t" withString:@" "];
