@@ -490,8 +490,36 @@ static void drawImageView(Canvas &canvas, UIImageView *view, CGRect bounds) {
   drawImage(canvas, image, rect, &tint);
 }
 
+// PassKit's fingerprint glyph (a framework loaded by path, so known here by name): ridges of
+// the print in its primary colour.
+static void drawFingerprint(Canvas &canvas, UIView *view, CGRect bounds) {
+  cairo_t *cr = canvas.cr;
+  UIColor *primary = [view respondsToSelector:@selector(primaryColor)] ? [view performSelector:@selector(primaryColor)] : nil;
+  double side = fmin(bounds.size.width, bounds.size.height);
+  if (side <= 0) return;
+  double cx = CGRectGetMidX(bounds), cy = CGRectGetMidY(bounds) + side * 0.04, unit = side * 0.42;
+  cairo_save(cr);
+  setSource(cr, rgbaOf(primary, Rgba{0, 0, 0, 1}));
+  cairo_set_line_width(cr, unit * 0.085);
+  cairo_set_line_cap(cr, CAIRO_LINE_CAP_ROUND);
+  // Each ridge: its radius and the part of the circle it covers (radians, from the right).
+  static const double ridges[][3] = {{0.18, -2.6, 0.5},  {0.36, -2.9, -0.1}, {0.36, 0.35, 1.1},
+                                     {0.54, -3.0, -0.25}, {0.54, 0.1, 0.8},  {0.72, -2.95, -0.45},
+                                     {0.72, -0.2, 0.45},  {0.9, -2.7, -0.65}};
+  for (const auto &ridge : ridges) {
+    cairo_new_sub_path(cr);
+    cairo_arc(cr, cx, cy, unit * ridge[0], ridge[1], ridge[2]);
+    cairo_stroke(cr);
+  }
+  cairo_restore(cr);
+}
+
 bool drawViewContent(Canvas &canvas, UIView *view, CGRect bounds) {
-  if ([view isKindOfClass:[UILabel class]]) {
+  static Class glyph = Nil;
+  if (glyph == Nil) glyph = NSClassFromString(@"PKGlyphView");
+  if (glyph != Nil && [view isKindOfClass:glyph]) {
+    drawFingerprint(canvas, view, bounds);
+  } else if ([view isKindOfClass:[UILabel class]]) {
     drawLabel(canvas, (UILabel *)view, bounds);
   } else if ([view isKindOfClass:[UISwitch class]]) {
     drawSwitch(canvas, (UISwitch *)view, bounds);
