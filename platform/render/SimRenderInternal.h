@@ -23,6 +23,7 @@ struct Canvas {
   int system = 16;           // the profile's major system version
   bool pad = false;
   bool dark = false;
+  bool rightToLeft = false;  // the user's language is written right to left: the UI is mirrored
   NSMutableArray *rows = nil;      // SimDrawnRow
   NSMutableArray *controls = nil;  // SimDrawnControl
   // Text records drawn while each row was drawn: [first, end) into the text records.
@@ -49,6 +50,10 @@ void roundedRectCorners(cairo_t *cr, CGRect r, double radius, bool top, bool bot
 void fillRect(cairo_t *cr, CGRect r, Rgba colour);
 void hairline(Canvas &canvas, double x0, double y0, double x1, double y1, Rgba colour);
 void shadowedCircle(cairo_t *cr, double cx, double cy, double radius, Rgba fill, bool dark);
+
+// Whether the interface is mirrored: natural alignment is then the right edge, as UIKit has it.
+void setRightToLeft(bool rightToLeft);
+bool rightToLeft();
 
 // Text: lays out, draws and returns the laid-out size. `width` <= 0: one unbounded line.
 CGSize drawText(cairo_t *cr, NSString *text, SimTextFont font, Rgba colour, CGRect box, int alignment,

@@ -246,15 +246,17 @@ double drawBarButton(Canvas &canvas, UIBarButtonItem *item, double edge, bool al
   return 0;
 }
 
+// The back chevron in the 12-point box at `x`, pointing back (to the right when mirrored).
 void drawBackChevron(Canvas &canvas, double x, double cy, Rgba tint) {
   cairo_t *cr = canvas.cr;
+  double from = canvas.rightToLeft ? x + 1.5 : x + 10, to = canvas.rightToLeft ? x + 10 : x + 1.5;
   cairo_save(cr);
   cairo_set_line_width(cr, 3);
   cairo_set_line_cap(cr, CAIRO_LINE_CAP_ROUND);
   cairo_set_line_join(cr, CAIRO_LINE_JOIN_ROUND);
-  cairo_move_to(cr, x + 10, cy - 10);
-  cairo_line_to(cr, x + 1.5, cy);
-  cairo_line_to(cr, x + 10, cy + 10);
+  cairo_move_to(cr, from, cy - 10);
+  cairo_line_to(cr, to, cy);
+  cairo_line_to(cr, from, cy + 10);
   setSource(cr, tint);
   cairo_stroke(cr);
   cairo_restore(cr);
@@ -277,30 +279,44 @@ void drawNavigationBar(Canvas &canvas, UINavigationController *navigation, UIVie
   double left = bar.origin.x + (canvas.pad ? 20 : 8), right = CGRectGetMaxX(bar) - (canvas.pad ? 20 : 16);
   Rgba tint = tintColour();
 
-  // Left: the page's own left buttons, else the back button.
-  double leftEnd = left;
+  // The leading side (the left, the right when mirrored): the page's own left buttons, else
+  // the back button. The trailing side: the page's right buttons, the first at the edge.
+  bool mirrored = canvas.rightToLeft;
+  double leadingEdge = mirrored ? CGRectGetMaxX(bar) - (left - bar.origin.x) : left;
+  double trailingEdge = mirrored ? bar.origin.x + (CGRectGetMaxX(bar) - right) : right;
+  double leading = 0, trailing = 0;  // how far each side's buttons reach from their edge
   NSArray *leftItems = [item leftBarButtonItems];
   if ([leftItems count] == 0 && [item leftBarButtonItem] != nil) leftItems = @[ [item leftBarButtonItem] ];
   if ([leftItems count] > 0) {
-    double x = bar.origin.x + (canvas.pad ? 20 : 16);
-    for (UIBarButtonItem *button in leftItems) x += drawBarButton(canvas, button, x, false, cy) + 16;
-    leftEnd = x;
+    double inset = canvas.pad ? 20 : 16;
+    double x = mirrored ? CGRectGetMaxX(bar) - inset : bar.origin.x + inset;
+    for (UIBarButtonItem *button in leftItems) {
+      double w = drawBarButton(canvas, button, x, mirrored, cy) + 16;
+      x += mirrored ? -w : w;
+    }
+    leading = fabs(x - (mirrored ? CGRectGetMaxX(bar) : bar.origin.x));
   } else if (![item hidesBackButton]) {
     NSString *back = backTitle(navigation);
     if (back != nil) {
-      drawBackChevron(canvas, left, cy, tint);
       NSString *shown = [back length] > 14 ? @"Back" : back;
       double w = measureText(shown, systemFont(17, 400), 0, 1).width;
-      drawText(cr, shown, systemFont(17, 400), tint, CGRectMake(left + 18, cy - 15, w, 30), SimTextAlignLeft, 1, true,
+      drawBackChevron(canvas, mirrored ? leadingEdge - 12 : leadingEdge, cy, tint);
+      double textX = mirrored ? leadingEdge - 18 - w : leadingEdge + 18;
+      drawText(cr, shown, systemFont(17, 400), tint, CGRectMake(textX, cy - 15, w, 30), SimTextAlignLeft, 1, true,
                false);
-      leftEnd = left + 18 + w + 8;
+      leading = fabs(leadingEdge - (mirrored ? CGRectGetMaxX(bar) : bar.origin.x)) + 18 + w + 8;
     }
   }
-  // Right: the page's right buttons, the first at the edge.
-  double rightStart = right;
   NSArray *rightItems = [item rightBarButtonItems];
   if ([rightItems count] == 0 && [item rightBarButtonItem] != nil) rightItems = @[ [item rightBarButtonItem] ];
-  for (UIBarButtonItem *button in rightItems) rightStart -= drawBarButton(canvas, button, rightStart, true, cy) + 16;
+  double x = trailingEdge;
+  for (UIBarButtonItem *button in rightItems) {
+    double w = drawBarButton(canvas, button, x, !mirrored, cy) + 16;
+    x += mirrored ? w : -w;
+  }
+  trailing = fabs((mirrored ? bar.origin.x : CGRectGetMaxX(bar)) - x);
+  double leftEnd = bar.origin.x + (mirrored ? trailing : leading);
+  double rightStart = CGRectGetMaxX(bar) - (mirrored ? leading : trailing);
 
   NSString *title = pageTitle(page);
   UIView *titleView = [item titleView];
@@ -513,6 +529,9 @@ SimScreenPicture *SimRenderSettingsScreen(BOOL fullPage) {
   canvas.system = majorVersion();
   canvas.pad = [[UIDevice currentDevice] userInterfaceIdiom] == UIUserInterfaceIdiomPad;
   canvas.dark = [[UITraitCollection currentTraitCollection] userInterfaceStyle] == UIUserInterfaceStyleDark;
+  canvas.rightToLeft = [[UIApplication sharedApplication] userInterfaceLayoutDirection] ==
+                       UIUserInterfaceLayoutDirectionRightToLeft;
+  setRightToLeft(canvas.rightToLeft);
   canvas.rows = [NSMutableArray array];
   canvas.controls = [NSMutableArray array];
   canvas.rowTextRanges = [NSMutableArray array];

@@ -56,15 +56,17 @@ NSString *rowTitle(UITableViewCell *cell) {
   return [title length] > 0 ? title : nil;
 }
 
-void drawChevron(Canvas &canvas, double right, double cy, bool dark) {
+// The disclosure chevron with its point at `tip`, pointing to the right (left when mirrored).
+void drawChevron(Canvas &canvas, double tip, double cy, bool dark) {
   cairo_t *cr = canvas.cr;
+  double back = canvas.rightToLeft ? 6.5 : -6.5;
   cairo_save(cr);
   cairo_set_line_width(cr, 2.2);
   cairo_set_line_cap(cr, CAIRO_LINE_CAP_ROUND);
   cairo_set_line_join(cr, CAIRO_LINE_JOIN_ROUND);
-  cairo_move_to(cr, right - 6.5, cy - 6);
-  cairo_line_to(cr, right, cy);
-  cairo_line_to(cr, right - 6.5, cy + 6);
+  cairo_move_to(cr, tip + back, cy - 6);
+  cairo_line_to(cr, tip, cy);
+  cairo_line_to(cr, tip + back, cy + 6);
   setSource(cr, dark ? Rgba{0.922, 0.922, 0.961, 0.3} : Rgba{0.235, 0.235, 0.263, 0.3});
   cairo_stroke(cr);
   cairo_restore(cr);
@@ -72,6 +74,7 @@ void drawChevron(Canvas &canvas, double right, double cy, bool dark) {
 
 void drawCheckmark(Canvas &canvas, double right, double cy, Rgba tint) {
   cairo_t *cr = canvas.cr;
+  if (canvas.rightToLeft) right += 14;
   cairo_save(cr);
   cairo_set_line_width(cr, 2.3);
   cairo_set_line_cap(cr, CAIRO_LINE_CAP_ROUND);
@@ -173,8 +176,15 @@ void drawCell(Canvas &canvas, UITableView *table, UITableViewCell *cell, CGRect 
   }
 
   double separatorX = margin;
+  // A mirrored row puts what UIKit lays out from the left at the right.
+  auto mirror = [&](CGRect r) {
+    return canvas.rightToLeft ? CGRectMake(size.width - CGRectGetMaxX(r), r.origin.y, r.size.width, r.size.height) : r;
+  };
   if (standardLayout(cell)) {
     StandardParts parts = placeStandardParts(cell, size, margin, accessoryRoom);
+    parts.icon = mirror(parts.icon);
+    parts.title = mirror(parts.title);
+    parts.detail = mirror(parts.detail);
     UIView *content = [cell contentView];
     // The content view's own background and anything the product added to it.
     Rgba contentBackground = rgbaOfCG([[content layer] backgroundColor], Rgba{0, 0, 0, 0});
@@ -190,7 +200,8 @@ void drawCell(Canvas &canvas, UITableView *table, UITableViewCell *cell, CGRect 
       UILabel *detail = [cell detailTextLabel];
       Rgba colour = rgbaOf([detail textColor], secondaryLabelColour());
       if (![detail isEnabled]) colour = tertiaryLabelColour();
-      int alignment = [cell style] == UITableViewCellStyleValue1 ? SimTextAlignRight : (int)[detail textAlignment];
+      int alignment = [cell style] == UITableViewCellStyleValue1 ? (canvas.rightToLeft ? SimTextAlignLeft : SimTextAlignRight)
+                                                                 : (int)[detail textAlignment];
       drawText(cr, [detail text], fontOf([detail font], systemFont(subtitle ? 12 : 17, 400)), colour, parts.detail,
                alignment, subtitle ? [detail numberOfLines] : 1, true, true);
     }
@@ -214,17 +225,20 @@ void drawCell(Canvas &canvas, UITableView *table, UITableViewCell *cell, CGRect 
   }
 
   double right = size.width - margin;
+  double accessoryEdge = canvas.rightToLeft ? margin : right;
   if (accessory != nil && ![accessory isHidden] && controlSpansRow(cell) && standardLayout(cell)) {
     CGSize own = [accessory frame].size;
     TemporaryWidth wide(accessory, size.width - 2 * margin, own.height);
     drawViewAt(canvas, accessory, CGPointMake(margin, floor((size.height - own.height) / 2)));
   } else if (accessory != nil && ![accessory isHidden]) {
     CGRect frame = [accessory frame];
-    drawViewAt(canvas, accessory, CGPointMake(right - frame.size.width, floor((size.height - frame.size.height) / 2)));
+    double x = canvas.rightToLeft ? accessoryEdge : right - frame.size.width;
+    drawViewAt(canvas, accessory, CGPointMake(x, floor((size.height - frame.size.height) / 2)));
   } else if (type == UITableViewCellAccessoryDisclosureIndicator) {
-    drawChevron(canvas, right - 1, size.height / 2, canvas.dark);
+    drawChevron(canvas, canvas.rightToLeft ? accessoryEdge + 1 : right - 1, size.height / 2, canvas.dark);
   } else if (type == UITableViewCellAccessoryCheckmark) {
-    drawCheckmark(canvas, right - 1, size.height / 2, rgbaOf([cell tintColor], tintColour()));
+    drawCheckmark(canvas, canvas.rightToLeft ? accessoryEdge + 1 : right - 1, size.height / 2,
+                  rgbaOf([cell tintColor], tintColour()));
   }
 
   // The separator under the row, from the text's start; the section's last row has none
@@ -233,7 +247,10 @@ void drawCell(Canvas &canvas, UITableView *table, UITableViewCell *cell, CGRect 
   if (separators && !(lastInSection && look.inset)) {
     Rgba colour = rgbaOf([table separatorColor], separatorColour());
     double x0 = lastInSection ? 0 : separatorX;
-    hairline(canvas, x0, size.height - 1.0 / canvas.scale, size.width, size.height, colour);
+    if (canvas.rightToLeft)
+      hairline(canvas, 0, size.height - 1.0 / canvas.scale, size.width - x0, size.height, colour);
+    else
+      hairline(canvas, x0, size.height - 1.0 / canvas.scale, size.width, size.height, colour);
   }
   cairo_restore(cr);
 

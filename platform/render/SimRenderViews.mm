@@ -141,6 +141,10 @@ SimTextFont fontOf(UIFont *font, SimTextFont fallback) {
   return SimTextFontNamed([font fontName], [font pointSize]);
 }
 
+static bool gRightToLeft = false;
+void setRightToLeft(bool mirrored) { gRightToLeft = mirrored; }
+bool rightToLeft() { return gRightToLeft; }
+
 CGSize measureText(NSString *text, SimTextFont font, CGFloat width, NSInteger lines) {
   if ([text length] == 0) return CGSizeZero;
   PangoLayout *layout = SimTextCreateLayout(text, font, width, lines, SimTextAlignNatural, NO);
@@ -153,6 +157,8 @@ CGSize drawText(cairo_t *cr, NSString *text, SimTextFont font, Rgba colour, CGRe
                 NSInteger lines, bool centreVertically, bool truncate) {
   if (![text isKindOfClass:[NSString class]] || [text length] == 0) return CGSizeZero;
   CGFloat width = box.size.width;
+  // Natural alignment follows the interface's direction (a mirrored interface sets text right).
+  if (alignment == SimTextAlignNatural && gRightToLeft) alignment = SimTextAlignRight;
   PangoLayout *layout = SimTextCreateLayout(text, font, width > 0 ? width : 0, lines, alignment, truncate);
   CGSize size = SimTextLayoutSize(layout);
   CGFloat y = box.origin.y;
@@ -277,7 +283,9 @@ static void drawSwitch(Canvas &canvas, UISwitch *control, CGRect bounds) {
     cairo_set_source_rgb(cr, 0.898, 0.898, 0.918);
     cairo_stroke(cr);
   }
-  double knobX = on ? CGRectGetMaxX(track) - 15.5 : track.origin.x + 15.5;
+  // A mirrored interface mirrors the switch: on, its knob is at the left.
+  bool knobRight = on != gRightToLeft;
+  double knobX = knobRight ? CGRectGetMaxX(track) - 15.5 : track.origin.x + 15.5;
   Rgba knob = rgbaOf([control thumbTintColor], Rgba{1, 1, 1, 1});
   shadowedCircle(cr, knobX, CGRectGetMidY(track), 13.5, knob, canvas.dark);
   if (![control isEnabled]) {
