@@ -51,6 +51,10 @@ void fillRect(cairo_t *cr, CGRect r, Rgba colour);
 void hairline(Canvas &canvas, double x0, double y0, double x1, double y1, Rgba colour);
 void shadowedCircle(cairo_t *cr, double cx, double cy, double radius, Rgba fill, bool dark);
 
+// Where a page's content starts on the screen (under its bars): a text view reaching under the
+// bars starts its text below them, as UIKit insets scroll views.
+void setScrollInsetTop(CGFloat top);
+
 // Whether the interface is mirrored: natural alignment is then the right edge, as UIKit has it.
 void setRightToLeft(bool rightToLeft);
 bool rightToLeft();

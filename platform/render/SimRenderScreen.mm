@@ -377,9 +377,9 @@ void drawColumn(Canvas &canvas, UIViewController *controller, CGRect column, dou
   cairo_rectangle(cr, column.origin.x, column.origin.y, column.size.width, column.size.height);
   cairo_clip(cr);
   fillRect(cr, column, pageBackground(page, table));
-  if ([page isKindOfClass:[MFMailComposeViewController class]]) {
+  if ([controller isKindOfClass:[MFMailComposeViewController class]]) {
     // The mail composer's fields, as its sheet shows them.
-    MFMailComposeViewController *mail = (MFMailComposeViewController *)page;
+    MFMailComposeViewController *mail = (MFMailComposeViewController *)controller;
     double y = contentTop + 4, x = column.origin.x + 16, w = column.size.width - 32;
     NSArray *to = [mail _simToRecipients];
     NSArray *fields = @[ @[ @"To:", to != nil ? [to componentsJoinedByString:@", "] : @"" ],
@@ -408,7 +408,9 @@ void drawColumn(Canvas &canvas, UIViewController *controller, CGRect column, dou
     CGPoint origin = CGPointMake(column.origin.x, sheet ? top : column.origin.y);
     cairo_save(cr);
     cairo_translate(cr, origin.x - frame.origin.x, origin.y - frame.origin.y);
+    setScrollInsetTop(contentTop);
     drawView(canvas, view);
+    setScrollInsetTop(0);
     cairo_restore(cr);
   }
   if (bar) {

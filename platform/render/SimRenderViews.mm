@@ -142,6 +142,8 @@ SimTextFont fontOf(UIFont *font, SimTextFont fallback) {
 }
 
 static bool gRightToLeft = false;
+static CGFloat gScrollInsetTop = 0;
+void setScrollInsetTop(CGFloat top) { gScrollInsetTop = top; }
 void setRightToLeft(bool mirrored) { gRightToLeft = mirrored; }
 bool rightToLeft() { return gRightToLeft; }
 
@@ -460,6 +462,10 @@ static void drawTextView(Canvas &canvas, UITextView *view, CGRect bounds) {
   id colour = [view textColor];
   Rgba ink = rgbaOf([colour isKindOfClass:[UIColor class]] ? colour : nil, labelColour());
   CGRect box = CGRectInset(bounds, 5, 8);
+  // Under the bars its content starts below them.
+  double under = fmax(gScrollInsetTop - screenRect(canvas.cr, bounds, canvas.scale).origin.y, 0);
+  box.origin.y += under;
+  box.size.height = fmax(box.size.height - under, 0);
   // Only what the view's height shows is laid out: long logs stop at the bottom edge.
   cairo_save(canvas.cr);
   cairo_rectangle(canvas.cr, bounds.origin.x, bounds.origin.y, bounds.size.width, bounds.size.height);
