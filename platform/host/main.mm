@@ -2,7 +2,7 @@
 // package, starts SpringBoard, loads the bundle, opens the product's settings and lets a
 // person (or a script) use them.
 //   tessarin-settings [--profile NAME] [--language CODE] [--script FILE|-] [--messages] [--no-springboard]
-//                     [--keep-device]
+//                     [--keep-device] [--screenshot-dir DIR]
 #import <Foundation/Foundation.h>
 #include <Simulator/Simulator.h>
 #include <signal.h>
@@ -13,6 +13,7 @@
 #import "MessageProbe.h"
 #import "SettingsConsole.h"
 #import "SettingsHost.h"
+#import "SettingsPictures.h"
 
 static volatile pid_t gSpringBoard = -1;
 static char gDeviceRoot[4096];
@@ -44,13 +45,14 @@ static void onSignal(int signo) {
 static void usage(FILE *out) {
   fprintf(out,
           "usage: tessarin-settings [--profile NAME] [--language CODE] [--script FILE|-] [--messages] [--no-springboard]\n"
-          "                         [--keep-device]\n"
+          "                         [--keep-device] [--screenshot-dir DIR]\n"
           "  --profile NAME    device profile (default %s)\n"
           "  --language CODE   the user's language first (de, ja, ar, pt-BR, zh-Hans...), as chosen in Settings\n"
           "  --script FILE     run the commands of FILE ('-': standard input) instead of asking\n"
           "  --messages        send the bundle's messages to SpringBoard and print the replies\n"
           "  --no-springboard  do not start the simulated SpringBoard\n"
-          "  --keep-device     leave the device tree in place at exit\n\n%s",
+          "  --keep-device     leave the device tree in place at exit\n"
+          "  --screenshot-dir DIR  write a picture of the screen into DIR after every command\n\n%s",
           SIM_DEFAULT_PROFILE, [[SettingsConsole helpText] UTF8String]);
 }
 
@@ -59,6 +61,25 @@ static void emit(NSString *text) {
   fputs([text UTF8String], stdout);
   if (![text hasSuffix:@"\n"]) fputc('\n', stdout);
   fflush(stdout);
+}
+
+static NSString *gScreenshotDir = nil;
+static unsigned gScreenshots = 0;
+
+// With --screenshot-dir: the screen after the command, as DIR/NNN-command.png.
+static void screenshotAfter(NSString *command) {
+  if (gScreenshotDir == nil) return;
+  NSMutableString *name = [NSMutableString string];
+  for (NSUInteger i = 0; i < [command length] && [name length] < 40; i++) {
+    unichar c = [command characterAtIndex:i];
+    bool plain = (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9');
+    if (plain) [name appendFormat:@"%C", c];
+    else if ([name length] > 0 && ![name hasSuffix:@"-"]) [name appendString:@"-"];
+  }
+  while ([name hasSuffix:@"-"]) [name deleteCharactersInRange:NSMakeRange([name length] - 1, 1)];
+  NSString *file = [NSString stringWithFormat:@"%03u%@%@.png", gScreenshots++, [name length] > 0 ? @"-" : @"", name];
+  NSString *failure = SettingsWriteScreenshot([gScreenshotDir stringByAppendingPathComponent:file], NO, 0);
+  if (failure != nil) fprintf(stderr, "tessarin-settings: %s\n", [failure UTF8String]);
 }
 
 // Reads commands line by line; echoes each one when not typed at a terminal.
@@ -78,6 +99,7 @@ static int runCommands(SettingsConsole *console, FILE *input, bool echo, bool pr
       printf("\n> %s\n", [command UTF8String]);
     }
     emit([console perform:command]);
+    if ([command length] > 0 && ![command hasPrefix:@"#"] && ![console finished]) screenshotAfter(command);
     [pool release];
   }
   if (prompt && ![console finished]) fputc('\n', stdout);
@@ -102,6 +124,8 @@ int main(int argc, char **argv) {
       messages = true;
     } else if (strcmp(argv[i], "--no-springboard") == 0) {
       springBoard = false;
+    } else if (strcmp(argv[i], "--screenshot-dir") == 0 && i + 1 < argc) {
+      gScreenshotDir = [[NSString alloc] initWithUTF8String:argv[++i]];
     } else if (strcmp(argv[i], "--keep-device") == 0) {
       gKeepDevice = true;
     } else if (strcmp(argv[i], "--help") == 0 || strcmp(argv[i], "-h") == 0) {
@@ -177,6 +201,11 @@ int main(int argc, char **argv) {
     return 1;
   }
   emit([console render]);
+  if (gScreenshotDir != nil) {
+    [[NSFileManager defaultManager] createDirectoryAtPath:gScreenshotDir withIntermediateDirectories:YES attributes:nil
+                                                    error:NULL];
+    screenshotAfter(@"start");
+  }
 
   bool interactive = script == NULL && isatty(fileno(stdin));
   if (interactive) printf("Type a command (help lists them).\n");

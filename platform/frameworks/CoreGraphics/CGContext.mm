@@ -1,9 +1,11 @@
-// Recording contexts: a context keeps what is drawn into it as lines of text, in device
-// coordinates, for tests to read.
+// Contexts: a context keeps what is drawn into it as lines of text, in device coordinates,
+// for tests to read, and draws it into its pixels (cairo) when it has any.
 #import <Foundation/Foundation.h>
 #include <CoreGraphics/CoreGraphicsSimulation.h>
 
 #include <vector>
+
+#include "CGPixels.h"
 
 @interface _SimCGContext : NSObject {
   NSMutableArray *_operations;
@@ -12,11 +14,13 @@
   CGAffineTransform _ctm;
   std::vector<CGAffineTransform> *_stack;
   CGMutablePathRef _path;
+  SimCGPixels *_pixels;
 }
 @property(nonatomic, readonly) NSMutableArray *operations;
 @property(nonatomic, assign) CGSize size;
 @property(nonatomic, assign) CGFloat scale;
 @property(nonatomic, assign) CGAffineTransform ctm;
+@property(nonatomic, assign) SimCGPixels *pixels;  // owned
 - (std::vector<CGAffineTransform> &)stack;
 - (CGMutablePathRef)path;
 - (void)clearPath;
@@ -26,6 +30,7 @@
 @synthesize size = _size;
 @synthesize scale = _scale;
 @synthesize ctm = _ctm;
+@synthesize pixels = _pixels;
 - (instancetype)init {
   if ((self = [super init])) {
     _operations = [[NSMutableArray alloc] init];
@@ -38,6 +43,7 @@
   [_operations release];
   CGPathRelease(_path);
   delete _stack;
+  delete _pixels;
   [super dealloc];
 }
 - (std::vector<CGAffineTransform> &)stack {
@@ -68,11 +74,29 @@ static NSString *colorText(CGColorRef color) {
 
 extern "C" {
 
+// The context's pixels, or NULL.
+static SimCGPixels *pixelsOf(CGContextRef c) { return c ? ((_SimCGContext *)c).pixels : NULL; }
+
 CGContextRef SimCGContextCreate(CGSize size, CGFloat scale) {
   _SimCGContext *c = [[_SimCGContext alloc] init];
   c.size = size;
   c.scale = scale;
+  c.pixels = SimCGPixels::withSize(size, scale);
   return (CGContextRef)c;
+}
+CGContextRef SimCGContextCreateForCairo(cairo_t *cr, CGFloat scale) {
+  _SimCGContext *c = [[_SimCGContext alloc] init];
+  c.scale = scale;
+  c.pixels = SimCGPixels::onCairo(cr);
+  return (CGContextRef)c;
+}
+cairo_t *SimCGContextCairo(CGContextRef c) {
+  SimCGPixels *pixels = pixelsOf(c);
+  return pixels ? pixels->cairoWith(((_SimCGContext *)c).ctm) : NULL;
+}
+cairo_surface_t *SimCGContextCopySurface(CGContextRef c) {
+  SimCGPixels *pixels = pixelsOf(c);
+  return pixels ? pixels->copySurface() : NULL;
 }
 void SimCGContextRecord(CGContextRef c, NSString *line) {
   if (c && line) [((_SimCGContext *)c).operations addObject:line];
@@ -91,6 +115,7 @@ void CGContextSaveGState(CGContextRef c) {
   if (!c) return;
   _SimCGContext *ctx = (_SimCGContext *)c;
   [ctx stack].push_back(ctx.ctm);
+  if (SimCGPixels *pixels = ctx.pixels) pixels->save();
   SimCGContextRecord(c, @"save");
 }
 void CGContextRestoreGState(CGContextRef c) {
@@ -99,28 +124,64 @@ void CGContextRestoreGState(CGContextRef c) {
   if (![ctx stack].empty()) {
     ctx.ctm = [ctx stack].back();
     [ctx stack].pop_back();
+    if (SimCGPixels *pixels = ctx.pixels) pixels->restore();
   }
   SimCGContextRecord(c, @"restore");
 }
 void CGContextSetBlendMode(CGContextRef c, CGBlendMode mode) {
+  if (SimCGPixels *pixels = pixelsOf(c)) pixels->setBlendMode((int)mode);
   SimCGContextRecord(c, [NSString stringWithFormat:@"blendMode %d", (int)mode]);
 }
 void CGContextSetAlpha(CGContextRef c, CGFloat alpha) {
+  if (SimCGPixels *pixels = pixelsOf(c)) pixels->setAlpha(alpha);
   SimCGContextRecord(c, [NSString stringWithFormat:@"alpha %g", alpha]);
 }
+// A colour's components as red, green, blue and alpha (grey ones widened).
+static void rgbaOf(CGColorRef color, CGFloat out[4]) {
+  size_t n = CGColorGetNumberOfComponents(color);
+  const CGFloat *v = CGColorGetComponents(color);
+  out[0] = out[1] = out[2] = 0;
+  out[3] = color ? 1 : 0;
+  if (!v) return;
+  if (n == 2) {
+    out[0] = out[1] = out[2] = v[0];
+    out[3] = v[1];
+  } else if (n >= 4) {
+    for (int i = 0; i < 4; ++i) out[i] = v[i];
+  }
+}
 void CGContextSetFillColorWithColor(CGContextRef c, CGColorRef color) {
+  if (SimCGPixels *pixels = pixelsOf(c)) {
+    CGFloat rgba[4];
+    rgbaOf(color, rgba);
+    pixels->setFill(rgba);
+  }
   SimCGContextRecord(c, [NSString stringWithFormat:@"fillColor %@", colorText(color)]);
 }
 void CGContextSetStrokeColorWithColor(CGContextRef c, CGColorRef color) {
+  if (SimCGPixels *pixels = pixelsOf(c)) {
+    CGFloat rgba[4];
+    rgbaOf(color, rgba);
+    pixels->setStroke(rgba);
+  }
   SimCGContextRecord(c, [NSString stringWithFormat:@"strokeColor %@", colorText(color)]);
 }
 void CGContextSetRGBFillColor(CGContextRef c, CGFloat r, CGFloat g, CGFloat b, CGFloat a) {
+  if (SimCGPixels *pixels = pixelsOf(c)) {
+    CGFloat rgba[4] = {r, g, b, a};
+    pixels->setFill(rgba);
+  }
   SimCGContextRecord(c, [NSString stringWithFormat:@"fillColor %g %g %g %g", r, g, b, a]);
 }
 void CGContextSetRGBStrokeColor(CGContextRef c, CGFloat r, CGFloat g, CGFloat b, CGFloat a) {
+  if (SimCGPixels *pixels = pixelsOf(c)) {
+    CGFloat rgba[4] = {r, g, b, a};
+    pixels->setStroke(rgba);
+  }
   SimCGContextRecord(c, [NSString stringWithFormat:@"strokeColor %g %g %g %g", r, g, b, a]);
 }
 void CGContextSetLineWidth(CGContextRef c, CGFloat width) {
+  if (SimCGPixels *pixels = pixelsOf(c)) pixels->setLineWidth(width);
   SimCGContextRecord(c, [NSString stringWithFormat:@"lineWidth %g", width]);
 }
 void CGContextConcatCTM(CGContextRef c, CGAffineTransform t) {
@@ -158,37 +219,51 @@ void CGContextAddRect(CGContextRef c, CGRect rect) {
 void CGContextClosePath(CGContextRef c) {
   if (c) CGPathCloseSubpath([(_SimCGContext *)c path]);
 }
-static void usePath(CGContextRef c, NSString *verb) {
+static void usePath(CGContextRef c, NSString *verb, SimCGPixels::Verb how) {
   if (!c) return;
   _SimCGContext *ctx = (_SimCGContext *)c;
+  if (SimCGPixels *pixels = ctx.pixels) pixels->usePath(how, [ctx path], ctx.ctm);
   SimCGContextRecord(c, [NSString stringWithFormat:@"%@ %@", verb, SimCGPathDescription([ctx path])]);
   [ctx clearPath];
 }
-void CGContextClip(CGContextRef c) { usePath(c, @"clip"); }
-void CGContextFillPath(CGContextRef c) { usePath(c, @"fill"); }
-void CGContextStrokePath(CGContextRef c) { usePath(c, @"stroke"); }
+void CGContextClip(CGContextRef c) { usePath(c, @"clip", SimCGPixels::kClip); }
+void CGContextFillPath(CGContextRef c) { usePath(c, @"fill", SimCGPixels::kFill); }
+void CGContextStrokePath(CGContextRef c) { usePath(c, @"stroke", SimCGPixels::kStroke); }
 void CGContextDrawPath(CGContextRef c, CGPathDrawingMode mode) {
-  usePath(c, mode == kCGPathStroke ? @"stroke" : mode == kCGPathFill || mode == kCGPathEOFill ? @"fill" : @"fillStroke");
+  usePath(c, mode == kCGPathStroke ? @"stroke" : mode == kCGPathFill || mode == kCGPathEOFill ? @"fill" : @"fillStroke",
+          mode == kCGPathStroke   ? SimCGPixels::kStroke
+          : mode == kCGPathFill   ? SimCGPixels::kFill
+          : mode == kCGPathEOFill ? SimCGPixels::kEOFill
+                                  : SimCGPixels::kFillStroke);
+}
+static void useRect(CGContextRef c, SimCGPixels::Verb how, CGRect rect) {
+  if (SimCGPixels *pixels = pixelsOf(c)) pixels->useRect(how, rect, ((_SimCGContext *)c).ctm);
 }
 static CGRect deviceRect(CGContextRef c, CGRect r) {
   return c ? CGRectApplyAffineTransform(r, ((_SimCGContext *)c).ctm) : r;
 }
 void CGContextClipToRect(CGContextRef c, CGRect rect) {
+  useRect(c, SimCGPixels::kClip, rect);
   SimCGContextRecord(c, [NSString stringWithFormat:@"clipRect %@", rectText(deviceRect(c, rect))]);
 }
 void CGContextFillRect(CGContextRef c, CGRect rect) {
+  useRect(c, SimCGPixels::kFill, rect);
   SimCGContextRecord(c, [NSString stringWithFormat:@"fillRect %@", rectText(deviceRect(c, rect))]);
 }
 void CGContextStrokeRect(CGContextRef c, CGRect rect) {
+  useRect(c, SimCGPixels::kStroke, rect);
   SimCGContextRecord(c, [NSString stringWithFormat:@"strokeRect %@", rectText(deviceRect(c, rect))]);
 }
 void CGContextClearRect(CGContextRef c, CGRect rect) {
+  useRect(c, SimCGPixels::kClear, rect);
   SimCGContextRecord(c, [NSString stringWithFormat:@"clearRect %@", rectText(deviceRect(c, rect))]);
 }
 void CGContextFillEllipseInRect(CGContextRef c, CGRect rect) {
+  useRect(c, SimCGPixels::kEllipse, rect);
   SimCGContextRecord(c, [NSString stringWithFormat:@"fillEllipse %@", rectText(deviceRect(c, rect))]);
 }
 void CGContextDrawImage(CGContextRef c, CGRect rect, CGImageRef image) {
+  if (SimCGPixels *pixels = pixelsOf(c)) pixels->drawImage(rect, image, ((_SimCGContext *)c).ctm);
   NSString *info = SimCGImageDescription(image);
   SimCGContextRecord(c, [NSString stringWithFormat:@"drawImage %@ %@", info ? info : @"(unnamed)",
                                                    rectText(deviceRect(c, rect))]);

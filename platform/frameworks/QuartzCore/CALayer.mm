@@ -1,4 +1,5 @@
 #import "QuartzCoreInternal.h"
+#include <CoreGraphics/CoreGraphicsCairo.h>
 #include <CoreGraphics/CoreGraphicsSimulation.h>
 
 #include <math.h>
@@ -311,9 +312,23 @@ NSString *const kCAGravityCenter = @"center";
 - (void)_simRenderContentInContext:(CGContextRef)ctx rect:(CGRect)r {
   if (_backgroundColor && CGColorGetAlpha(_backgroundColor) > 0) {
     CGContextSetFillColorWithColor(ctx, _backgroundColor);
+    // The record notes the rounding beside the rectangle; the pixels are rounded.
+    cairo_t *cr = _cornerRadius > 0 ? SimCGContextCairo(ctx) : NULL;
     if (_cornerRadius > 0)
       SimCGContextRecord(ctx, [NSString stringWithFormat:@"cornerRadius %g", _cornerRadius]);
+    if (cr != NULL) {
+      double radius = fmin(_cornerRadius, fmin(r.size.width, r.size.height) / 2);
+      cairo_save(cr);
+      cairo_new_sub_path(cr);
+      cairo_arc(cr, CGRectGetMaxX(r) - radius, r.origin.y + radius, radius, -M_PI / 2, 0);
+      cairo_arc(cr, CGRectGetMaxX(r) - radius, CGRectGetMaxY(r) - radius, radius, 0, M_PI / 2);
+      cairo_arc(cr, r.origin.x + radius, CGRectGetMaxY(r) - radius, radius, M_PI / 2, M_PI);
+      cairo_arc(cr, r.origin.x + radius, r.origin.y + radius, radius, M_PI, 3 * M_PI / 2);
+      cairo_close_path(cr);
+      cairo_clip(cr);
+    }
     CGContextFillRect(ctx, r);
+    if (cr != NULL) cairo_restore(cr);
   }
   if (_contents) CGContextDrawImage(ctx, r, (CGImageRef)_contents);
 }

@@ -1,4 +1,5 @@
 #import "UIKitInternal.h"
+#include <CoreGraphics/CoreGraphicsCairo.h>
 #include <math.h>
 
 const UIFontWeight UIFontWeightUltraLight = -0.8;
@@ -101,21 +102,19 @@ NSString *const UIFontTextStyleCaption1 = @"UICTFontTextStyleCaption1";
 }
 @end
 
+// Texts are measured as they are drawn: laid out by pango in the system font's stand-in face
+// (words wrap at `maxWidth`), each line as high as the font's line height.
 CGSize SimUIKitTextSize(NSString *text, UIFont *font, CGFloat maxWidth, NSInteger maxLines) {
   if (!font) font = [UIFont systemFontOfSize:17];
   if (![text isKindOfClass:[NSString class]] || !text.length) return CGSizeZero;
-  CGFloat charWidth = font.pointSize * 0.5, lineHeight = font.lineHeight, width = 0;
-  NSInteger lines = 0;
-  for (NSString *para in [text componentsSeparatedByString:@"\n"]) {
-    CGFloat w = ceil(para.length * charWidth);
-    NSInteger n = 1;
-    if (maxWidth > 0 && w > maxWidth) {
-      n = (NSInteger)ceil(w / maxWidth);
-      w = maxWidth;
-    }
-    width = fmax(width, w);
-    lines += n;
-  }
+  PangoLayout *layout = SimTextCreateLayout(text, SimTextFontNamed(font.fontName, font.pointSize),
+                                            maxWidth > 0 ? maxWidth : 0, 0, SimTextAlignNatural, NO);
+  PangoRectangle logical;
+  pango_layout_get_extents(layout, NULL, &logical);
+  NSInteger lines = pango_layout_get_line_count(layout);
+  g_object_unref(layout);
   if (maxLines > 0 && lines > maxLines) lines = maxLines;
-  return CGSizeMake(width, lines * lineHeight);
+  CGFloat width = ceil((CGFloat)logical.width / PANGO_SCALE);
+  if (maxWidth > 0 && width > maxWidth) width = maxWidth;
+  return CGSizeMake(width, lines * font.lineHeight);
 }

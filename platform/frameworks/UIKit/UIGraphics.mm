@@ -1,5 +1,6 @@
 // Drawing contexts and image contexts.
 #import "UIKitInternal.h"
+#include <CoreGraphics/CoreGraphicsCairo.h>
 #include <CoreGraphics/CoreGraphicsSimulation.h>
 #include <math.h>
 
@@ -73,8 +74,12 @@ UIImage *UIGraphicsGetImageFromCurrentImageContext(void) {
   [scanner scanDouble:&s];
   size = CGSizeMake(w, h);
   scale = s > 0 ? s : 1;
-  CGImageRef image = SimCGImageCreate((size_t)llround(size.width * scale), (size_t)llround(size.height * scale),
-                                      @"drawn", ops);
+  // The context's pixels as they are now: the image keeps them when the context draws on.
+  cairo_surface_t *pixels = SimCGContextCopySurface((CGContextRef)c);
+  CGImageRef image = pixels != NULL ? SimCGImageCreateWithSurface(pixels, @"drawn", ops)
+                                    : SimCGImageCreate((size_t)llround(size.width * scale),
+                                                       (size_t)llround(size.height * scale), @"drawn", ops);
+  if (pixels != NULL) cairo_surface_destroy(pixels);
   UIImage *result = [UIImage imageWithCGImage:image scale:scale orientation:UIImageOrientationUp];
   CGImageRelease(image);
   return result;

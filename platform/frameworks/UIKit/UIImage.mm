@@ -1,4 +1,5 @@
 #import "UIKitInternal.h"
+#include <CoreGraphics/CoreGraphicsCairo.h>
 #include <CoreGraphics/CoreGraphicsSimulation.h>
 #include <math.h>
 
@@ -48,6 +49,7 @@ static CGFloat scaleFromFileName(NSString *path) {
   }
   if (!ok) px = CGSizeMake(1, 1);  // not a PNG: some other bitmap the stand-in cannot measure
   CGImageRef image = SimCGImageCreate((size_t)px.width, (size_t)px.height, description, nil);
+  if (ok) SimCGImageSetSource(image, nil, data);  // its pixels, decoded when first drawn
   self = [self _simInitWithCGImage:image scale:scale];
   CGImageRelease(image);
   return self;
@@ -219,7 +221,9 @@ static CGFloat iconPoints(int format) {
 }
 - (UIImage *)_applicationIconImageForFormat:(int)format precomposed:(BOOL)precomposed scale:(CGFloat)scale {
   NSString *what = [NSString stringWithFormat:@"icon(%@)", [self _simDescription]];
-  return [UIImage _simIconNamed:what format:format scale:scale];
+  UIImage *icon = [UIImage _simIconNamed:what format:format scale:scale];
+  SimCGImageSetIconSource([icon CGImage], _CGImage);
+  return icon;
 }
 - (UIImage *)_applicationIconImageForFormat:(int)format precomposed:(BOOL)precomposed {
   return [self _applicationIconImageForFormat:format precomposed:precomposed scale:0];

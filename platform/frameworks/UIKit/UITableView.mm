@@ -169,10 +169,16 @@ struct _SimTableGeometry {
     if (h >= 0) return h;
   }
   if (_sectionHeaderHeight >= 0) return _sectionHeaderHeight;
-  BOOL titled = [_dataSource respondsToSelector:@selector(tableView:titleForHeaderInSection:)] &&
-                [_dataSource tableView:self titleForHeaderInSection:section].length > 0;
+  NSString *title = [_dataSource respondsToSelector:@selector(tableView:titleForHeaderInSection:)]
+                        ? [_dataSource tableView:self titleForHeaderInSection:section]
+                        : nil;
+  BOOL titled = title.length > 0;
   if (_style == UITableViewStylePlain) return titled ? 28 : 0;
-  return titled ? 55.5 : 35;
+  if (!titled) return 35;
+  // A header of one line of 13-point capitals is 55.5 points high; a longer one wraps within
+  // the section's text margins (inset sections: 32 points each side) and grows by its lines.
+  CGSize s = SimUIKitTextSize([title uppercaseString], [UIFont systemFontOfSize:13], self.bounds.size.width - 64, 0);
+  return 39.5 + fmax(s.height, 16);
 }
 - (CGFloat)_simHeightForFooter:(NSInteger)section {
   id<UITableViewDelegate> d = self.delegate;
@@ -185,7 +191,8 @@ struct _SimTableGeometry {
                         ? [_dataSource tableView:self titleForFooterInSection:section]
                         : nil;
   if (!title.length) return _style == UITableViewStylePlain ? 0 : 5;
-  CGSize s = SimUIKitTextSize(title, [UIFont systemFontOfSize:13], self.bounds.size.width - 30, 0);
+  // Footers wrap within the section's text margins too.
+  CGSize s = SimUIKitTextSize(title, [UIFont systemFontOfSize:13], self.bounds.size.width - 64, 0);
   return s.height + 17;
 }
 // The measures, taken when first needed after they were forgotten.

@@ -192,9 +192,12 @@
       _textLabel.frame = CGRectMake(x, 0, available, h);
       break;
     case UITableViewCellStyleValue1: {
-      CGFloat dw = fmin(d.width, available);
-      _detailTextLabel.frame = CGRectMake(cw - margin - dw, 0, dw, h);
-      _textLabel.frame = CGRectMake(x, 0, fmax(available - dw - 8, 0), h);
+      // The title keeps its width and the detail gives way; each label is as high as its text,
+      // centred in the row, as UIKit lays the two out.
+      CGFloat tw = fmin(t.width, available);
+      CGFloat dw = fmin(d.width, fmax(available - tw - 8, 0));
+      _detailTextLabel.frame = CGRectMake(cw - margin - dw, floor((h - d.height) / 2), dw, d.height);
+      _textLabel.frame = CGRectMake(x, floor((h - t.height) / 2), fmax(available - (dw > 0 ? dw + 8 : 0), 0), t.height);
       break;
     }
     case UITableViewCellStyleValue2:

@@ -2,6 +2,7 @@
 #import "SettingsIconRows.h"
 #import "HostPrivateAPI.h"
 #import "SettingsScreen.h"
+#import "SettingsPictures.h"
 #import "SettingsRowIcons.h"
 #include <Simulator/Simulator.h>
 
@@ -77,6 +78,9 @@ static void performOn(id target, SEL action, id argument) {
           "  wait SECONDS       let the app run (animations, delayed work)\n"
           "  show               print the screen again\n"
           "  icons              list the rows with their switch state and icon\n"
+          "  screenshot FILE    write what the screen shows as a PNG picture; screenshot FILE full:\n"
+          "                     the whole page on top, however long; @1x, @2x: at that scale\n"
+          "  gallery FOLDER     write a picture of every page of the product into FOLDER\n"
           "  quit               leave\n";
 }
 
@@ -217,6 +221,12 @@ static void performOn(id target, SEL action, id argument) {
   }
   id target = SettingsScreenRowTarget(specifier, page);
   SEL setter = SettingsScreenRowSelector(specifier, "setter");
+  // The finger moves the row's switch first; then the row stores the value.
+  if ([page isKindOfClass:[PSListController class]]) {
+    id cell = [(PSListController *)page cachedCellForSpecifier:specifier];
+    id control = [cell respondsToSelector:@selector(control)] ? [cell control] : nil;
+    if ([control isKindOfClass:[UISwitch class]]) [(UISwitch *)control setOn:[value boolValue] animated:NO];
+  }
   @try {
     if (setter != NULL && [target respondsToSelector:setter]) {
       [target performSelector:setter withObject:value withObject:specifier];
@@ -498,6 +508,31 @@ static UITextField *focusedTextField(UIView *view) {
     [self settle];
     [self render];
     return SettingsRowIconsReport([self screen]);
+  }
+  if ([verb isEqualToString:@"screenshot"] && count >= 2 && count <= 4) {
+    // screenshot FILE [full] [@1x|@2x|@3x]
+    BOOL full = NO, understood = YES;
+    CGFloat scale = 0;
+    for (NSUInteger i = 2; i < count; i++) {
+      NSString *word = [words objectAtIndex:i];
+      if ([word isEqualToString:@"full"]) {
+        full = YES;
+      } else if ([word hasPrefix:@"@"] && [word hasSuffix:@"x"] && [word length] == 3 &&
+                 [word characterAtIndex:1] >= '1' && [word characterAtIndex:1] <= '3') {
+        scale = [word characterAtIndex:1] - '0';
+      } else {
+        understood = NO;
+      }
+    }
+    if (!understood) return @"Say it so: screenshot FILE.png [full] [@1x|@2x|@3x]\n";
+    [self settle];
+    NSString *failure = SettingsWriteScreenshot([words objectAtIndex:1], full, scale);
+    return failure != nil ? [failure stringByAppendingString:@"\n"]
+                          : [NSString stringWithFormat:@"Picture written: %@\n", [words objectAtIndex:1]];
+  }
+  if ([verb isEqualToString:@"gallery"] && count == 2) {
+    [self settle];
+    return SettingsWriteGallery(self, [words objectAtIndex:1]);
   }
   if ([verb isEqualToString:@"wait"]) {
     double seconds = count == 2 ? [[words objectAtIndex:1] doubleValue] : -1;
