@@ -31,8 +31,8 @@ double median(std::vector<double> samples) {
 // opens pages of `pageClass`, as Settings hands it to the page it opens; nil for pages no row
 // opens on this device.
 PSSpecifier *linkTo(Class pageClass) {
-  for (NSString *parentName in @[ @"TessarinPrefsListController", @"TessarinPasscodeSettingsController",
-                                  @"TessarinDebugLogsController" ]) {
+  for (NSString *parentName in
+       @[ @"TessarinPrefsListController", @"TessarinPasscodeSettingsController", @"TessarinDebugLogsController" ]) {
     PSListController *parent = [[[NSClassFromString(parentName) alloc] init] autorelease];
     for (PSSpecifier *row in [parent specifiers])
       if ([row detailControllerClass] == pageClass) return row;
@@ -45,7 +45,10 @@ void writeCrashLog() {
   char path[PATH_MAX];
   if (SimDevicePath("/var/mobile/Library/Logs/Tessarin", path, sizeof path) == NULL) return;
   NSString *directory = [NSString stringWithUTF8String:path];
-  [[NSFileManager defaultManager] createDirectoryAtPath:directory withIntermediateDirectories:YES attributes:nil error:NULL];
+  [[NSFileManager defaultManager] createDirectoryAtPath:directory
+                            withIntermediateDirectories:YES
+                                             attributes:nil
+                                                  error:NULL];
   [@"Incident Identifier: 0001\nProcess: SpringBoard [50]\nException Type: NSInvalidArgumentException\n"
       writeToFile:[directory stringByAppendingPathComponent:@"Tessarin-05-Mar-2024-14-07-09.log"]
        atomically:NO
@@ -93,7 +96,8 @@ void firstOpen(benchmark::State &state, NSString *className) {
 
 }  // namespace
 
-#define PAGE(name) BENCHMARK_CAPTURE(firstOpen, name, @ #name)->Iterations(20)->UseManualTime()->Unit(benchmark::kMillisecond)
+#define PAGE(name) \
+  BENCHMARK_CAPTURE(firstOpen, name, @ #name)->Iterations(20)->UseManualTime()->Unit(benchmark::kMillisecond)
 PAGE(TessarinPrefsListController);
 PAGE(TessarinApplicationsController);
 PAGE(TessarinAppNotificationsController);

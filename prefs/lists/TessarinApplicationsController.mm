@@ -66,8 +66,9 @@ lists::AllowedApplications allowedApplications() {
 - (NSMutableArray *)listRows {
   lists::ApplicationListing listing(allowedApplications());
   NSMutableArray *rows = [NSMutableArray array];
-  [rows addObject:footerGroup(localizedString(
-                      @"APPLICATIONS_FOOTER", @"Choose the applications that you want to protect from the list below"))];
+  [rows
+      addObject:footerGroup(localizedString(@"APPLICATIONS_FOOTER",
+                                            @"Choose the applications that you want to protect from the list below"))];
   [rows addObject:[PSSpecifier emptyGroupSpecifier]];
 
   const bool containerRootExists = deviceFileExists(@(lists::kContainerRoot));
@@ -85,7 +86,7 @@ lists::AllowedApplications allowedApplications() {
       std::optional<std::string> listed = listing.consider(source, name, utf8String(identifier));
       if (!listed) continue;
       PSSpecifier *row = switchRow(nsString(*listed), self, @selector(setProtectEnabled:specifier:),
-                                       @selector(getProtectEnabledForSpecifier:));
+                                   @selector(getProtectEnabledForSpecifier:));
       if (identifier != nil) {
         [row setProperty:identifier forKey:@"id"];
         [row setProperty:identifier forKey:@"appIDForLazyIcon"];

@@ -31,7 +31,8 @@ static PSCellType defaultCellType(NSString *name) {
   return UITableViewStyleGrouped;
 }
 - (void)loadView {
-  UITableView *table = [[[self tableViewClass] alloc] initWithFrame:[UIScreen mainScreen].bounds style:[self tableViewStyle]];
+  UITableView *table = [[[self tableViewClass] alloc] initWithFrame:[UIScreen mainScreen].bounds
+                                                              style:[self tableViewStyle]];
   table.autoresizingMask = UIViewAutoresizingFlexibleWidth | UIViewAutoresizingFlexibleHeight;
   table.dataSource = self;
   table.delegate = self;
@@ -135,7 +136,8 @@ static PSCellType defaultCellType(NSString *name) {
   NSDictionary *plist = path ? [NSDictionary dictionaryWithContentsOfFile:path] : nil;
   if (![plist isKindOfClass:[NSDictionary class]]) return rows;
   NSString *title = [plist objectForKey:@"title"];
-  if ([title isKindOfClass:[NSString class]]) self.title = [bundle localizedStringForKey:title value:title table:plistName];
+  if ([title isKindOfClass:[NSString class]])
+    self.title = [bundle localizedStringForKey:title value:title table:plistName];
   NSArray *items = [plist objectForKey:@"items"];
   if (![items isKindOfClass:[NSArray class]]) return rows;
   for (NSDictionary *item in items) {
@@ -145,13 +147,19 @@ static PSCellType defaultCellType(NSString *name) {
     if (![label isKindOfClass:[NSString class]]) label = nil;
     if (label) label = [bundle localizedStringForKey:label value:label table:plistName];
     NSString *set = [item objectForKey:@"set"], *get = [item objectForKey:@"get"];
-    SEL setter = [set isKindOfClass:[NSString class]] ? NSSelectorFromString(set) : @selector(setPreferenceValue:specifier:);
+    SEL setter =
+        [set isKindOfClass:[NSString class]] ? NSSelectorFromString(set) : @selector(setPreferenceValue:specifier:);
     SEL getter = [get isKindOfClass:[NSString class]] ? NSSelectorFromString(get) : @selector(readPreferenceValue:);
     NSString *detail = [item objectForKey:@"detail"];
     Class detailClass = [detail isKindOfClass:[NSString class]] ? NSClassFromString(detail) : Nil;
     PSCellType type = defaultCellType([cell isKindOfClass:[NSString class]] ? cell : nil);
-    PSSpecifier *s = [PSSpecifier preferenceSpecifierNamed:label target:target set:setter get:getter detail:detailClass
-                                                      cell:type edit:Nil];
+    PSSpecifier *s = [PSSpecifier preferenceSpecifierNamed:label
+                                                    target:target
+                                                       set:setter
+                                                       get:getter
+                                                    detail:detailClass
+                                                      cell:type
+                                                      edit:Nil];
     for (NSString *key in item) [s setProperty:[item objectForKey:key] forKey:key];
     NSString *cellClass = [item objectForKey:PSCellClassKey];
     if ([cellClass isKindOfClass:[NSString class]]) {
@@ -171,13 +179,19 @@ static PSCellType defaultCellType(NSString *name) {
     if ([values isKindOfClass:[NSArray class]]) {
       NSMutableArray *localized = [NSMutableArray array];
       for (id t in [titles isKindOfClass:[NSArray class]] ? titles : values)
-        [localized addObject:[t isKindOfClass:[NSString class]] ? [bundle localizedStringForKey:t value:t table:plistName] : t];
+        [localized addObject:[t isKindOfClass:[NSString class]] ? [bundle localizedStringForKey:t
+                                                                                          value:t
+                                                                                          table:plistName]
+                                                                : t];
       NSArray *shortTitles = [item objectForKey:@"shortTitles"];
       NSMutableArray *localizedShort = nil;
       if ([shortTitles isKindOfClass:[NSArray class]]) {
         localizedShort = [NSMutableArray array];
         for (id t in shortTitles)
-          [localizedShort addObject:[t isKindOfClass:[NSString class]] ? [bundle localizedStringForKey:t value:t table:plistName] : t];
+          [localizedShort addObject:[t isKindOfClass:[NSString class]] ? [bundle localizedStringForKey:t
+                                                                                                 value:t
+                                                                                                 table:plistName]
+                                                                       : t];
       }
       [s setValues:values titles:localized shortTitles:localizedShort];
     }
@@ -239,7 +253,8 @@ static PSCellType defaultCellType(NSString *name) {
   NSArray *starts = [self _simGroupStarts:rows];
   if (group < 0 || (NSUInteger)group >= starts.count) return [NSArray array];
   NSUInteger start = [[starts objectAtIndex:group] unsignedIntegerValue];
-  NSUInteger end = (NSUInteger)group + 1 < starts.count ? [[starts objectAtIndex:group + 1] unsignedIntegerValue] : rows.count;
+  NSUInteger end =
+      (NSUInteger)group + 1 < starts.count ? [[starts objectAtIndex:group + 1] unsignedIntegerValue] : rows.count;
   NSMutableArray *out = [NSMutableArray array];
   for (NSUInteger i = start; i < end; ++i) {
     PSSpecifier *s = [rows objectAtIndex:i];
@@ -330,7 +345,8 @@ static PSCellType defaultCellType(NSString *name) {
 - (void)insertContiguousSpecifiers:(NSArray *)specifiers atIndex:(NSInteger)index animated:(BOOL)animated {
   NSMutableArray *rows = [self _simMutableRows];
   if (index < 0 || (NSUInteger)index > rows.count) index = rows.count;
-  [rows insertObjects:specifiers atIndexes:[NSIndexSet indexSetWithIndexesInRange:NSMakeRange(index, specifiers.count)]];
+  [rows insertObjects:specifiers
+            atIndexes:[NSIndexSet indexSetWithIndexesInRange:NSMakeRange(index, specifiers.count)]];
   [self _simReplaceRows:rows];
 }
 - (void)insertContiguousSpecifiers:(NSArray *)specifiers atIndex:(NSInteger)index {
@@ -338,7 +354,9 @@ static PSCellType defaultCellType(NSString *name) {
 }
 - (void)insertContiguousSpecifiers:(NSArray *)specifiers afterSpecifier:(PSSpecifier *)other animated:(BOOL)animated {
   NSUInteger i = [[self _simRows] indexOfObjectIdenticalTo:other];
-  [self insertContiguousSpecifiers:specifiers atIndex:i == NSNotFound ? NSNotFound : (NSInteger)i + 1 animated:animated];
+  [self insertContiguousSpecifiers:specifiers
+                           atIndex:i == NSNotFound ? NSNotFound : (NSInteger)i + 1
+                          animated:animated];
 }
 - (void)insertSpecifier:(PSSpecifier *)specifier atIndex:(NSInteger)index animated:(BOOL)animated {
   if (specifier) [self insertContiguousSpecifiers:[NSArray arrayWithObject:specifier] atIndex:index animated:animated];
@@ -347,7 +365,8 @@ static PSCellType defaultCellType(NSString *name) {
   [self insertSpecifier:specifier atIndex:index animated:NO];
 }
 - (void)insertSpecifier:(PSSpecifier *)specifier afterSpecifier:(PSSpecifier *)other animated:(BOOL)animated {
-  if (specifier) [self insertContiguousSpecifiers:[NSArray arrayWithObject:specifier] afterSpecifier:other animated:animated];
+  if (specifier)
+    [self insertContiguousSpecifiers:[NSArray arrayWithObject:specifier] afterSpecifier:other animated:animated];
 }
 - (void)insertSpecifier:(PSSpecifier *)specifier afterSpecifier:(PSSpecifier *)other {
   [self insertSpecifier:specifier afterSpecifier:other animated:NO];
@@ -396,12 +415,15 @@ static PSCellType defaultCellType(NSString *name) {
 - (void)removeSpecifierAtIndex:(NSInteger)index {
   [self removeSpecifierAtIndex:index animated:NO];
 }
-- (void)replaceContiguousSpecifiers:(NSArray *)specifiers withSpecifiers:(NSArray *)newSpecifiers animated:(BOOL)animated {
+- (void)replaceContiguousSpecifiers:(NSArray *)specifiers
+                     withSpecifiers:(NSArray *)newSpecifiers
+                           animated:(BOOL)animated {
   NSMutableArray *rows = [self _simMutableRows];
   NSUInteger at = specifiers.count ? [rows indexOfObjectIdenticalTo:[specifiers objectAtIndex:0]] : NSNotFound;
   for (PSSpecifier *s in specifiers) [rows removeObjectIdenticalTo:s];
   if (at == NSNotFound || at > rows.count) at = rows.count;
-  [rows insertObjects:newSpecifiers atIndexes:[NSIndexSet indexSetWithIndexesInRange:NSMakeRange(at, newSpecifiers.count)]];
+  [rows insertObjects:newSpecifiers
+            atIndexes:[NSIndexSet indexSetWithIndexesInRange:NSMakeRange(at, newSpecifiers.count)]];
   [self _simReplaceRows:rows];
 }
 - (void)replaceContiguousSpecifiers:(NSArray *)specifiers withSpecifiers:(NSArray *)newSpecifiers {
@@ -415,12 +437,17 @@ static PSCellType defaultCellType(NSString *name) {
   if ([cls isKindOfClass:[NSString class]]) cls = NSClassFromString(cls);
   if (cls && class_isMetaClass(object_getClass(cls)) && [cls isSubclassOfClass:[UITableViewCell class]]) return cls;
   switch (specifier.cellType) {
-    case PSSwitchCell: return [PSSwitchTableCell class];
+    case PSSwitchCell:
+      return [PSSwitchTableCell class];
     case PSEditTextCell:
-    case PSSecureEditTextCell: return [PSEditableTableCell class];
-    case PSSliderCell: return [PSSliderTableCell class];
-    case PSSegmentCell: return [PSSegmentTableCell class];
-    default: return [PSTableCell class];
+    case PSSecureEditTextCell:
+      return [PSEditableTableCell class];
+    case PSSliderCell:
+      return [PSSliderTableCell class];
+    case PSSegmentCell:
+      return [PSSegmentTableCell class];
+    default:
+      return [PSTableCell class];
   }
 }
 - (id)_simValueForSpecifier:(PSSpecifier *)specifier {
@@ -433,9 +460,11 @@ static PSCellType defaultCellType(NSString *name) {
   Class cls = [self cellClassForSpecifier:specifier];
   UITableViewCell *cell = [specifier propertyForKey:PSTableCellKey];
   if (![cell isKindOfClass:cls] || [cell class] != cls) {
-    UITableViewCellStyle style = [cls respondsToSelector:@selector(cellStyle)] ? [cls cellStyle] : UITableViewCellStyleValue1;
-    NSString *reuse = [cls respondsToSelector:@selector(reuseIdentifierForSpecifier:)] ? [cls reuseIdentifierForSpecifier:specifier]
-                                                                                      : NSStringFromClass(cls);
+    UITableViewCellStyle style =
+        [cls respondsToSelector:@selector(cellStyle)] ? [cls cellStyle] : UITableViewCellStyleValue1;
+    NSString *reuse = [cls respondsToSelector:@selector(reuseIdentifierForSpecifier:)]
+                          ? [cls reuseIdentifierForSpecifier:specifier]
+                          : NSStringFromClass(cls);
     if ([cls instancesRespondToSelector:@selector(initWithStyle:reuseIdentifier:specifier:)])
       cell = [[[cls alloc] initWithStyle:style reuseIdentifier:reuse specifier:specifier] autorelease];
     else
@@ -525,8 +554,9 @@ static PSCellType defaultCellType(NSString *name) {
   if (!cls || !class_isMetaClass(object_getClass(cls)) || ![cls isSubclassOfClass:[UIView class]]) return nil;
   UIView *view = [g propertyForKey:cacheKey];
   if (![view isKindOfClass:cls]) {
-    view = [cls instancesRespondToSelector:@selector(initWithSpecifier:)] ? [[[cls alloc] initWithSpecifier:g] autorelease]
-                                                                         : [[[cls alloc] initWithFrame:CGRectZero] autorelease];
+    view = [cls instancesRespondToSelector:@selector(initWithSpecifier:)]
+               ? [[[cls alloc] initWithSpecifier:g] autorelease]
+               : [[[cls alloc] initWithFrame:CGRectZero] autorelease];
     if (view) [g setProperty:view forKey:cacheKey];
   }
   return view;

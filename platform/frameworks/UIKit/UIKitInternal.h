@@ -27,10 +27,10 @@ CGSize SimUIKitTextSize(NSString *text, UIFont *font, CGFloat maxWidth, NSIntege
   NSMutableArray *_urlOptions;
   NSMutableArray *_animations;
 }
-@property(nonatomic, readonly) NSMutableArray *sounds;
-@property(nonatomic, readonly) NSMutableArray *urls;
-@property(nonatomic, readonly) NSMutableArray *urlOptions;
-@property(nonatomic, readonly) NSMutableArray *animations;
+@property (nonatomic, readonly) NSMutableArray *sounds;
+@property (nonatomic, readonly) NSMutableArray *urls;
+@property (nonatomic, readonly) NSMutableArray *urlOptions;
+@property (nonatomic, readonly) NSMutableArray *animations;
 @end
 
 #ifdef __cplusplus
@@ -101,9 +101,9 @@ void SimUIKitSetKeyWindow(UIWindow *window);
   NSArray *_titles;
   NSInteger _selectedSection;
 }
-@property(nonatomic, copy) NSArray *titles;
-@property(nonatomic, readonly) NSInteger selectedSection;
-@property(nonatomic, readonly) NSString *selectedSectionTitle;
+@property (nonatomic, copy) NSArray *titles;
+@property (nonatomic, readonly) NSInteger selectedSection;
+@property (nonatomic, readonly) NSString *selectedSectionTitle;
 /* A touch on the title at `position`: selects it and sends the value-changed action. */
 - (void)_simSelect:(NSInteger)position;
 @end

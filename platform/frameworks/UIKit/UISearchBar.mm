@@ -89,30 +89,38 @@
 // The field's editing, as the bar's.
 
 - (BOOL)textFieldShouldBeginEditing:(UITextField *)field {
-  return ![_delegate respondsToSelector:@selector(searchBarShouldBeginEditing:)] || [_delegate searchBarShouldBeginEditing:self];
+  return ![_delegate respondsToSelector:@selector(searchBarShouldBeginEditing:)] ||
+         [_delegate searchBarShouldBeginEditing:self];
 }
 - (void)textFieldDidBeginEditing:(UITextField *)field {
   [[self retain] autorelease];
-  if ([_delegate respondsToSelector:@selector(searchBarTextDidBeginEditing:)]) [_delegate searchBarTextDidBeginEditing:self];
+  if ([_delegate respondsToSelector:@selector(searchBarTextDidBeginEditing:)])
+    [_delegate searchBarTextDidBeginEditing:self];
   [_searchController _simSearchBarDidBeginEditing:self];
 }
 - (BOOL)textFieldShouldEndEditing:(UITextField *)field {
-  return ![_delegate respondsToSelector:@selector(searchBarShouldEndEditing:)] || [_delegate searchBarShouldEndEditing:self];
+  return ![_delegate respondsToSelector:@selector(searchBarShouldEndEditing:)] ||
+         [_delegate searchBarShouldEndEditing:self];
 }
 - (void)textFieldDidEndEditing:(UITextField *)field {
-  if ([_delegate respondsToSelector:@selector(searchBarTextDidEndEditing:)]) [_delegate searchBarTextDidEndEditing:self];
+  if ([_delegate respondsToSelector:@selector(searchBarTextDidEndEditing:)])
+    [_delegate searchBarTextDidEndEditing:self];
 }
-- (BOOL)textField:(UITextField *)field shouldChangeCharactersInRange:(NSRange)range replacementString:(NSString *)string {
+- (BOOL)textField:(UITextField *)field
+    shouldChangeCharactersInRange:(NSRange)range
+                replacementString:(NSString *)string {
   return ![_delegate respondsToSelector:@selector(searchBar:shouldChangeTextInRange:replacementText:)] ||
          [_delegate searchBar:self shouldChangeTextInRange:range replacementText:string];
 }
 - (BOOL)textFieldShouldReturn:(UITextField *)field {
-  if ([_delegate respondsToSelector:@selector(searchBarSearchButtonClicked:)]) [_delegate searchBarSearchButtonClicked:self];
+  if ([_delegate respondsToSelector:@selector(searchBarSearchButtonClicked:)])
+    [_delegate searchBarSearchButtonClicked:self];
   return YES;
 }
 - (void)_simFieldChanged:(UITextField *)field {
   [[self retain] autorelease];
-  if ([_delegate respondsToSelector:@selector(searchBar:textDidChange:)]) [_delegate searchBar:self textDidChange:self.text];
+  if ([_delegate respondsToSelector:@selector(searchBar:textDidChange:)])
+    [_delegate searchBar:self textDidChange:self.text];
   [_searchController _simSearchBarTextDidChange:self];
 }
 
@@ -144,7 +152,8 @@ BOOL SimSearchBarClear(UISearchBar *bar) {
   UISearchTextField *field = bar.searchTextField;
   if (!field.text.length) return YES;
   // The field's clear button: the text goes in one change, and the field keeps the keyboard.
-  if ([field.delegate respondsToSelector:@selector(textFieldShouldClear:)] && ![field.delegate textFieldShouldClear:field])
+  if ([field.delegate respondsToSelector:@selector(textFieldShouldClear:)] &&
+      ![field.delegate textFieldShouldClear:field])
     return NO;
   [bar becomeFirstResponder];
   [field _simReplaceRange:NSMakeRange(0, field.text.length) with:@""];
@@ -157,7 +166,8 @@ BOOL SimSearchBarTapCancel(UISearchBar *bar) {
   if (!bar.showsCancelButton && ![controller isActive]) return NO;
   [[bar retain] autorelease];
   id<UISearchBarDelegate> delegate = bar.delegate;
-  if ([delegate respondsToSelector:@selector(searchBarCancelButtonClicked:)]) [delegate searchBarCancelButtonClicked:bar];
+  if ([delegate respondsToSelector:@selector(searchBarCancelButtonClicked:)])
+    [delegate searchBarCancelButtonClicked:bar];
   [controller _simSearchBarCancelled:bar];
   return YES;
 }

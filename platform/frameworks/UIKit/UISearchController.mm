@@ -49,14 +49,17 @@
   [[self retain] autorelease];
   id<UISearchControllerDelegate> delegate = _searchDelegate;
   if (active) {
-    if ([delegate respondsToSelector:@selector(willPresentSearchController:)]) [delegate willPresentSearchController:self];
+    if ([delegate respondsToSelector:@selector(willPresentSearchController:)])
+      [delegate willPresentSearchController:self];
     _active = YES;
     _searchBar.showsCancelButton = YES;
     [_searchResultsUpdater updateSearchResultsForSearchController:self];
-    if ([delegate respondsToSelector:@selector(didPresentSearchController:)]) [delegate didPresentSearchController:self];
+    if ([delegate respondsToSelector:@selector(didPresentSearchController:)])
+      [delegate didPresentSearchController:self];
     return;
   }
-  if ([delegate respondsToSelector:@selector(willDismissSearchController:)]) [delegate willDismissSearchController:self];
+  if ([delegate respondsToSelector:@selector(willDismissSearchController:)])
+    [delegate willDismissSearchController:self];
   _active = NO;
   [_searchBar resignFirstResponder];
   _searchBar.text = @"";

@@ -60,9 +60,7 @@ static const CGFloat kIndexWidth = 16;
 }
 @end
 
-NSArray *SimTableViewSectionIndexTitles(UITableView *table) {
-  return [[table _simSectionIndex] titles];
-}
+NSArray *SimTableViewSectionIndexTitles(UITableView *table) { return [[table _simSectionIndex] titles]; }
 
 BOOL SimTableViewTapSectionIndex(UITableView *table, NSString *title) {
   if (!table || [[UIApplication sharedApplication] isIgnoringInteractionEvents]) return NO;

@@ -67,8 +67,8 @@ struct _SimTableGeometry {
     _reusableCells = [[NSMutableDictionary alloc] init];
     _registeredClasses = [[NSMutableDictionary alloc] init];
     self.alwaysBounceVertical = YES;
-    self.backgroundColor = style == UITableViewStylePlain ? [UIColor systemBackgroundColor]
-                                                          : [UIColor systemGroupedBackgroundColor];
+    self.backgroundColor =
+        style == UITableViewStylePlain ? [UIColor systemBackgroundColor] : [UIColor systemGroupedBackgroundColor];
   }
   return self;
 }
@@ -158,8 +158,9 @@ struct _SimTableGeometry {
 }
 - (CGFloat)_simHeightForRow:(NSIndexPath *)path {
   id<UITableViewDelegate> d = self.delegate;
-  CGFloat h = [d respondsToSelector:@selector(tableView:heightForRowAtIndexPath:)] ? [d tableView:self heightForRowAtIndexPath:path]
-                                                                                   : _rowHeight;
+  CGFloat h = [d respondsToSelector:@selector(tableView:heightForRowAtIndexPath:)]
+                  ? [d tableView:self heightForRowAtIndexPath:path]
+                  : _rowHeight;
   return h < 0 ? 44 : h;
 }
 - (CGFloat)_simHeightForHeader:(NSInteger)section {
@@ -206,7 +207,8 @@ struct _SimTableGeometry {
       g->footer.push_back([self _simHeightForFooter:s]);
       g->rows.emplace_back();
       const NSInteger rows = [_dataSource tableView:self numberOfRowsInSection:s];
-      for (NSInteger r = 0; r < rows; ++r) g->rows.back().push_back([self _simHeightForRow:[NSIndexPath indexPathForRow:r inSection:s]]);
+      for (NSInteger r = 0; r < rows; ++r)
+        g->rows.back().push_back([self _simHeightForRow:[NSIndexPath indexPathForRow:r inSection:s]]);
     }
     _geometry = g;
   }
@@ -229,7 +231,8 @@ struct _SimTableGeometry {
   _SimTableGeometry *g = [self _simGeometry];
   CGFloat bottom = g->top;
   if (!g->header.empty()) bottom = g->sectionTop.back() + g->sectionHeight(g->header.size() - 1);
-  self.contentSize = CGSizeMake(self.bounds.size.width, bottom + (_tableFooterView ? _tableFooterView.frame.size.height : 0));
+  self.contentSize =
+      CGSizeMake(self.bounds.size.width, bottom + (_tableFooterView ? _tableFooterView.frame.size.height : 0));
 }
 - (CGRect)rectForSection:(NSInteger)section {
   _SimTableGeometry *g = [self _simGeometry];
@@ -364,15 +367,21 @@ struct _SimTableGeometry {
 }
 - (UIView *)headerViewForSection:(NSInteger)section {
   id<UITableViewDelegate> d = self.delegate;
-  return [d respondsToSelector:@selector(tableView:viewForHeaderInSection:)] ? [d tableView:self viewForHeaderInSection:section] : nil;
+  return [d respondsToSelector:@selector(tableView:viewForHeaderInSection:)]
+             ? [d tableView:self viewForHeaderInSection:section]
+             : nil;
 }
 - (UIView *)footerViewForSection:(NSInteger)section {
   id<UITableViewDelegate> d = self.delegate;
-  return [d respondsToSelector:@selector(tableView:viewForFooterInSection:)] ? [d tableView:self viewForFooterInSection:section] : nil;
+  return [d respondsToSelector:@selector(tableView:viewForFooterInSection:)]
+             ? [d tableView:self viewForFooterInSection:section]
+             : nil;
 }
 // The row (for a row NSNotFound, the section from its header) brought to the asked place on
 // screen, the offset kept within the content.
-- (void)scrollToRowAtIndexPath:(NSIndexPath *)path atScrollPosition:(UITableViewScrollPosition)pos animated:(BOOL)animated {
+- (void)scrollToRowAtIndexPath:(NSIndexPath *)path
+              atScrollPosition:(UITableViewScrollPosition)pos
+                      animated:(BOOL)animated {
   if (!path || path.section < 0 || path.section >= self.numberOfSections) return;
   if (path.row != NSNotFound && ![self _simValidIndexPath:path]) return;
   CGRect target = path.row == NSNotFound ? [self rectForSection:path.section] : [self rectForRowAtIndexPath:path];
@@ -380,9 +389,9 @@ struct _SimTableGeometry {
   UIEdgeInsets inset = self.contentInset;
   CGFloat y = visible.origin.y, height = visible.size.height - inset.top - inset.bottom;
   if (pos == UITableViewScrollPositionNone)
-    pos = target.origin.y < y + inset.top ? UITableViewScrollPositionTop
+    pos = target.origin.y < y + inset.top                  ? UITableViewScrollPositionTop
           : CGRectGetMaxY(target) > y + inset.top + height ? UITableViewScrollPositionBottom
-                                                            : UITableViewScrollPositionNone;
+                                                           : UITableViewScrollPositionNone;
   if (pos == UITableViewScrollPositionTop) y = target.origin.y - inset.top;
   if (pos == UITableViewScrollPositionMiddle) y = CGRectGetMidY(target) - height / 2 - inset.top;
   if (pos == UITableViewScrollPositionBottom) y = CGRectGetMaxY(target) - height - inset.top;
@@ -503,14 +512,16 @@ BOOL SimTableViewSelectRow(UITableView *table, NSIndexPath *path) {
     if (!path) return NO;
   }
   [table selectRowAtIndexPath:path animated:NO scrollPosition:UITableViewScrollPositionNone];
-  if ([d respondsToSelector:@selector(tableView:didSelectRowAtIndexPath:)]) [d tableView:table didSelectRowAtIndexPath:path];
+  if ([d respondsToSelector:@selector(tableView:didSelectRowAtIndexPath:)])
+    [d tableView:table didSelectRowAtIndexPath:path];
   return YES;
 }
 
 BOOL SimTableViewCommitEditing(UITableView *table, UITableViewCellEditingStyle style, NSIndexPath *path) {
   if (!table || !path || [[UIApplication sharedApplication] isIgnoringInteractionEvents]) return NO;
   id<UITableViewDataSource> ds = table.dataSource;
-  if ([ds respondsToSelector:@selector(tableView:canEditRowAtIndexPath:)] && ![ds tableView:table canEditRowAtIndexPath:path])
+  if ([ds respondsToSelector:@selector(tableView:canEditRowAtIndexPath:)] && ![ds tableView:table
+                                                                                 canEditRowAtIndexPath:path])
     return NO;
   if (![ds respondsToSelector:@selector(tableView:commitEditingStyle:forRowAtIndexPath:)]) return NO;
   [ds tableView:table commitEditingStyle:style forRowAtIndexPath:path];

@@ -11,7 +11,9 @@
   [super dealloc];
 }
 - (NSString *)selectedSectionTitle {
-  return _selectedSection >= 0 && (NSUInteger)_selectedSection < _titles.count ? [_titles objectAtIndex:_selectedSection] : nil;
+  return _selectedSection >= 0 && (NSUInteger)_selectedSection < _titles.count
+             ? [_titles objectAtIndex:_selectedSection]
+             : nil;
 }
 - (void)_simSelect:(NSInteger)position {
   _selectedSection = position;

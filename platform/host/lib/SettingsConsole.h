@@ -53,7 +53,7 @@
 - (void)settle;
 
 // YES once "quit" ran.
-@property(nonatomic, assign) BOOL finished;
+@property (nonatomic, assign) BOOL finished;
 // Longest time one settle may take (seconds; default 3).
-@property(nonatomic, assign) double settleLimit;
+@property (nonatomic, assign) double settleLimit;
 @end

@@ -136,8 +136,9 @@ static void performOn(id target, SEL action, id argument) {
     return nil;
   }
   if (number == 0 || number > [items count]) {
-    *error = [items count] == 0 ? @"There is nothing numbered on this screen."
-                                : [NSString stringWithFormat:@"Choose a number from 1 to %lu.", (unsigned long)[items count]];
+    *error = [items count] == 0
+                 ? @"There is nothing numbered on this screen."
+                 : [NSString stringWithFormat:@"Choose a number from 1 to %lu.", (unsigned long)[items count]];
     return nil;
   }
   return [items objectAtIndex:number - 1];
@@ -151,7 +152,8 @@ static void performOn(id target, SEL action, id argument) {
   if (next == nil) return [NSString stringWithFormat:@"%@ could not be created.", NSStringFromClass(pageClass)];
   if ([next isKindOfClass:[PSViewController class]]) {
     PSViewController *settingsPage = (PSViewController *)next;
-    if ([page isKindOfClass:[PSViewController class]]) [settingsPage setRootController:[(PSViewController *)page rootController]];
+    if ([page isKindOfClass:[PSViewController class]])
+      [settingsPage setRootController:[(PSViewController *)page rootController]];
     [settingsPage setParentController:page];
     [settingsPage setSpecifier:specifier];
   }
@@ -329,7 +331,7 @@ static UITextField *focusedTextField(UIView *view) {
     return nil;
   }
   return [holder isKindOfClass:[PSSplitViewController class]] ? @"The Settings list is beside this page already."
-                                                             : @"This is the Settings list already.";
+                                                              : @"This is the Settings list already.";
 }
 
 - (NSString *)cancel {
@@ -361,7 +363,8 @@ static UITextField *focusedTextField(UIView *view) {
   UIViewController *page = [item controller];
   if (![page isKindOfClass:[PSEditableListController class]]) return @"Rows of this page cannot be deleted.";
   if ([item footerLink]) return @"That is a footer link, not a row.";
-  return SimEditableListSwipeToDelete((PSListController *)page, [item specifier]) ? nil : @"That row cannot be deleted.";
+  return SimEditableListSwipeToDelete((PSListController *)page, [item specifier]) ? nil
+                                                                                  : @"That row cannot be deleted.";
 }
 
 - (NSString *)touch:(SettingsScreenItem *)item at:(NSString *)where {
@@ -469,7 +472,8 @@ static UITextField *focusedTextField(UIView *view) {
     if ([title caseInsensitiveCompare:letter] != NSOrderedSame) continue;
     return SimTableViewTapSectionIndex(table, title) ? nil : @"The index did not respond.";
   }
-  return [NSString stringWithFormat:@"The index has no \"%@\": it shows %@.", letter, [titles componentsJoinedByString:@" "]];
+  return [NSString
+      stringWithFormat:@"The index has no \"%@\": it shows %@.", letter, [titles componentsJoinedByString:@" "]];
 }
 
 - (BOOL)openEntryNamed:(NSString *)label {
@@ -555,8 +559,9 @@ static UITextField *focusedTextField(UIView *view) {
   } else if ([verb isEqualToString:@"tap"] && count == 3) {
     SettingsScreenItem *item = [self itemNumbered:[words objectAtIndex:1] error:&problem];
     if (item != nil) {
-      problem = [[self screen] alert] != nil ? @"Answer the alert first (alert N)."
-                                             : SettingsIconRowTap([item specifier], [item controller], [words objectAtIndex:2]);
+      problem = [[self screen] alert] != nil
+                    ? @"Answer the alert first (alert N)."
+                    : SettingsIconRowTap([item specifier], [item controller], [words objectAtIndex:2]);
     }
   } else if ([verb isEqualToString:@"flip"] && count == 2) {
     SettingsScreenItem *item = [self itemNumbered:[words objectAtIndex:1] error:&problem];
@@ -590,12 +595,13 @@ static UITextField *focusedTextField(UIView *view) {
     problem = [self cancel];
   } else if ([verb isEqualToString:@"delete"] && count == 2) {
     SettingsScreenItem *item = [self itemNumbered:[words objectAtIndex:1] error:&problem];
-    if (item != nil) problem = [[self screen] alert] != nil ? @"Answer the alert first (alert N)." : [self deleteRow:item];
+    if (item != nil)
+      problem = [[self screen] alert] != nil ? @"Answer the alert first (alert N)." : [self deleteRow:item];
   } else if ([verb isEqualToString:@"touch"] && count == 3) {
     SettingsScreenItem *item = [self itemNumbered:[words objectAtIndex:1] error:&problem];
     if (item != nil) {
       problem = [[self screen] alert] != nil ? @"Answer the alert first (alert N)."
-                                              : [self touch:item at:[words objectAtIndex:2]];
+                                             : [self touch:item at:[words objectAtIndex:2]];
     }
   } else if ([verb isEqualToString:@"share"] && count == 1) {
     problem = [self share];
@@ -611,9 +617,11 @@ static UITextField *focusedTextField(UIView *view) {
     NSString *typed = [[words subarrayWithRange:NSMakeRange(1, count - 1)] componentsJoinedByString:@" "];
     problem = [[self screen] alert] != nil ? @"Answer the alert first (alert N)." : [self search:typed];
   } else if ([verb isEqualToString:@"index"] && count == 2) {
-    problem = [[self screen] alert] != nil ? @"Answer the alert first (alert N)." : [self index:[words objectAtIndex:1]];
+    problem =
+        [[self screen] alert] != nil ? @"Answer the alert first (alert N)." : [self index:[words objectAtIndex:1]];
   } else if ([verb isEqualToString:@"press"] && count == 2) {
-    problem = [[self screen] alert] != nil ? @"Answer the alert first (alert N)." : [self press:[words objectAtIndex:1]];
+    problem =
+        [[self screen] alert] != nil ? @"Answer the alert first (alert N)." : [self press:[words objectAtIndex:1]];
   } else {
     return [NSString stringWithFormat:@"Unknown command: %@\n%@", trimmed, [SettingsConsole helpText]];
   }

@@ -40,7 +40,8 @@ UIKIT_EXTERN BOOL SimTapBarButtonItem(UIBarButtonItem *item);
 /* Selects a row as a tap would: willSelect, then didSelect of the table's delegate. */
 UIKIT_EXTERN BOOL SimTableViewSelectRow(UITableView *tableView, NSIndexPath *indexPath);
 /* Commits an edit (e.g. a swipe-to-delete) through the table's data source. */
-UIKIT_EXTERN BOOL SimTableViewCommitEditing(UITableView *tableView, UITableViewCellEditingStyle style, NSIndexPath *indexPath);
+UIKIT_EXTERN BOOL SimTableViewCommitEditing(UITableView *tableView, UITableViewCellEditingStyle style,
+                                            NSIndexPath *indexPath);
 
 /* The user types `text` into a search bar: the bar takes the keyboard (its search controller,
    if any, becomes active), then one keystroke per character. NO when the bar refuses. */
@@ -76,14 +77,16 @@ UIKIT_EXTERN BOOL SimTableViewTapSectionIndex(UITableView *tableView, NSString *
 @end
 
 @interface UIImage (Private)
-+ (UIImage *)_applicationIconImageForBundleIdentifier:(NSString *)bundleIdentifier format:(int)format scale:(CGFloat)scale;
++ (UIImage *)_applicationIconImageForBundleIdentifier:(NSString *)bundleIdentifier
+                                               format:(int)format
+                                                scale:(CGFloat)scale;
 + (UIImage *)_applicationIconImageForBundleIdentifier:(NSString *)bundleIdentifier format:(int)format;
 - (UIImage *)_applicationIconImageForFormat:(int)format precomposed:(BOOL)precomposed;
 - (UIImage *)_applicationIconImageForFormat:(int)format precomposed:(BOOL)precomposed scale:(CGFloat)scale;
 @end
 
 @interface UIAlertAction (Private)
-@property(nonatomic, copy) void (^handler)(UIAlertAction *action);
+@property (nonatomic, copy) void (^handler)(UIAlertAction *action);
 @end
 
 @interface UIAlertController (Private)
@@ -91,7 +94,7 @@ UIKIT_EXTERN BOOL SimTableViewTapSectionIndex(UITableView *tableView, NSString *
 @end
 
 @interface UITableViewCell (Private)
-@property(nonatomic, retain) UIColor *separatorColor;
+@property (nonatomic, retain) UIColor *separatorColor;
 @end
 
 #endif

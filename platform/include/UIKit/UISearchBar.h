@@ -33,18 +33,18 @@
   BOOL _showsCancelButton;
   id _searchController;
 }
-@property(nonatomic, copy) NSString *text;
+@property (nonatomic, copy) NSString *text;
 /* nil shows the system's "Search". */
-@property(nonatomic, copy) NSString *placeholder;
-@property(nonatomic, copy) NSString *prompt;
-@property(nonatomic, assign) id<UISearchBarDelegate> delegate;
-@property(nonatomic) BOOL showsCancelButton;
+@property (nonatomic, copy) NSString *placeholder;
+@property (nonatomic, copy) NSString *prompt;
+@property (nonatomic, assign) id<UISearchBarDelegate> delegate;
+@property (nonatomic) BOOL showsCancelButton;
 - (void)setShowsCancelButton:(BOOL)showsCancelButton animated:(BOOL)animated;
-@property(nonatomic) UITextAutocapitalizationType autocapitalizationType;
-@property(nonatomic) UITextAutocorrectionType autocorrectionType;
-@property(nonatomic) UIKeyboardType keyboardType;
+@property (nonatomic) UITextAutocapitalizationType autocapitalizationType;
+@property (nonatomic) UITextAutocorrectionType autocorrectionType;
+@property (nonatomic) UIKeyboardType keyboardType;
 /* iOS 13 and later. */
-@property(nonatomic, readonly) UISearchTextField *searchTextField;
+@property (nonatomic, readonly) UISearchTextField *searchTextField;
 @end
 
 #endif

@@ -35,15 +35,15 @@
   BOOL _hidesNavigationBarDuringPresentation;
 }
 - (instancetype)initWithSearchResultsController:(UIViewController *)searchResultsController;
-@property(nonatomic, assign) id<UISearchResultsUpdating> searchResultsUpdater;
-@property(nonatomic, getter=isActive) BOOL active;
-@property(nonatomic, assign) id<UISearchControllerDelegate> delegate;
+@property (nonatomic, assign) id<UISearchResultsUpdating> searchResultsUpdater;
+@property (nonatomic, getter=isActive) BOOL active;
+@property (nonatomic, assign) id<UISearchControllerDelegate> delegate;
 /* Default YES (iOS 9.1). */
-@property(nonatomic) BOOL obscuresBackgroundDuringPresentation;
+@property (nonatomic) BOOL obscuresBackgroundDuringPresentation;
 /* Default YES. */
-@property(nonatomic) BOOL hidesNavigationBarDuringPresentation;
-@property(nonatomic, readonly) UIViewController *searchResultsController;
-@property(nonatomic, readonly) UISearchBar *searchBar;
+@property (nonatomic) BOOL hidesNavigationBarDuringPresentation;
+@property (nonatomic, readonly) UIViewController *searchResultsController;
+@property (nonatomic, readonly) UISearchBar *searchBar;
 @end
 
 #endif

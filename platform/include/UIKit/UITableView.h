@@ -7,28 +7,28 @@
 @class UITableView;
 @class UIColor;
 
-typedef NS_ENUM(NSInteger, UITableViewStyle){
-    UITableViewStylePlain,
-    UITableViewStyleGrouped,
-    UITableViewStyleInsetGrouped,
+typedef NS_ENUM(NSInteger, UITableViewStyle) {
+  UITableViewStylePlain,
+  UITableViewStyleGrouped,
+  UITableViewStyleInsetGrouped,
 };
 
-typedef NS_ENUM(NSInteger, UITableViewScrollPosition){
-    UITableViewScrollPositionNone,
-    UITableViewScrollPositionTop,
-    UITableViewScrollPositionMiddle,
-    UITableViewScrollPositionBottom,
+typedef NS_ENUM(NSInteger, UITableViewScrollPosition) {
+  UITableViewScrollPositionNone,
+  UITableViewScrollPositionTop,
+  UITableViewScrollPositionMiddle,
+  UITableViewScrollPositionBottom,
 };
 
-typedef NS_ENUM(NSInteger, UITableViewRowAnimation){
-    UITableViewRowAnimationFade,
-    UITableViewRowAnimationRight,
-    UITableViewRowAnimationLeft,
-    UITableViewRowAnimationTop,
-    UITableViewRowAnimationBottom,
-    UITableViewRowAnimationNone,
-    UITableViewRowAnimationMiddle,
-    UITableViewRowAnimationAutomatic = 100,
+typedef NS_ENUM(NSInteger, UITableViewRowAnimation) {
+  UITableViewRowAnimationFade,
+  UITableViewRowAnimationRight,
+  UITableViewRowAnimationLeft,
+  UITableViewRowAnimationTop,
+  UITableViewRowAnimationBottom,
+  UITableViewRowAnimationNone,
+  UITableViewRowAnimationMiddle,
+  UITableViewRowAnimationAutomatic = 100,
 };
 
 UIKIT_EXTERN const CGFloat UITableViewAutomaticDimension;
@@ -36,9 +36,9 @@ UIKIT_EXTERN const CGFloat UITableViewAutomaticDimension;
 @interface NSIndexPath (UIKitAdditions)
 + (instancetype)indexPathForRow:(NSInteger)row inSection:(NSInteger)section;
 + (instancetype)indexPathForItem:(NSInteger)item inSection:(NSInteger)section;
-@property(nonatomic, readonly) NSInteger section;
-@property(nonatomic, readonly) NSInteger row;
-@property(nonatomic, readonly) NSInteger item;
+@property (nonatomic, readonly) NSInteger section;
+@property (nonatomic, readonly) NSInteger row;
+@property (nonatomic, readonly) NSInteger item;
 @end
 
 @protocol UITableViewDataSource <NSObject>
@@ -50,7 +50,9 @@ UIKIT_EXTERN const CGFloat UITableViewAutomaticDimension;
 - (NSString *)tableView:(UITableView *)tableView titleForHeaderInSection:(NSInteger)section;
 - (NSString *)tableView:(UITableView *)tableView titleForFooterInSection:(NSInteger)section;
 - (BOOL)tableView:(UITableView *)tableView canEditRowAtIndexPath:(NSIndexPath *)indexPath;
-- (void)tableView:(UITableView *)tableView commitEditingStyle:(UITableViewCellEditingStyle)editingStyle forRowAtIndexPath:(NSIndexPath *)indexPath;
+- (void)tableView:(UITableView *)tableView
+    commitEditingStyle:(UITableViewCellEditingStyle)editingStyle
+     forRowAtIndexPath:(NSIndexPath *)indexPath;
 /* The section index: its titles (nil: no index), and the section a title leads to. */
 - (NSArray *)sectionIndexTitlesForTableView:(UITableView *)tableView;
 - (NSInteger)tableView:(UITableView *)tableView sectionForSectionIndexTitle:(NSString *)title atIndex:(NSInteger)index;
@@ -58,7 +60,9 @@ UIKIT_EXTERN const CGFloat UITableViewAutomaticDimension;
 
 @protocol UITableViewDelegate <UIScrollViewDelegate>
 @optional
-- (void)tableView:(UITableView *)tableView willDisplayCell:(UITableViewCell *)cell forRowAtIndexPath:(NSIndexPath *)indexPath;
+- (void)tableView:(UITableView *)tableView
+      willDisplayCell:(UITableViewCell *)cell
+    forRowAtIndexPath:(NSIndexPath *)indexPath;
 - (CGFloat)tableView:(UITableView *)tableView heightForRowAtIndexPath:(NSIndexPath *)indexPath;
 - (CGFloat)tableView:(UITableView *)tableView heightForHeaderInSection:(NSInteger)section;
 - (CGFloat)tableView:(UITableView *)tableView heightForFooterInSection:(NSInteger)section;
@@ -68,9 +72,11 @@ UIKIT_EXTERN const CGFloat UITableViewAutomaticDimension;
 - (void)tableView:(UITableView *)tableView didSelectRowAtIndexPath:(NSIndexPath *)indexPath;
 - (void)tableView:(UITableView *)tableView didDeselectRowAtIndexPath:(NSIndexPath *)indexPath;
 - (BOOL)tableView:(UITableView *)tableView shouldHighlightRowAtIndexPath:(NSIndexPath *)indexPath;
-- (UITableViewCellEditingStyle)tableView:(UITableView *)tableView editingStyleForRowAtIndexPath:(NSIndexPath *)indexPath;
+- (UITableViewCellEditingStyle)tableView:(UITableView *)tableView
+           editingStyleForRowAtIndexPath:(NSIndexPath *)indexPath;
 - (BOOL)tableView:(UITableView *)tableView shouldIndentWhileEditingRowAtIndexPath:(NSIndexPath *)indexPath;
-- (NSString *)tableView:(UITableView *)tableView titleForDeleteConfirmationButtonForRowAtIndexPath:(NSIndexPath *)indexPath;
+- (NSString *)tableView:(UITableView *)tableView
+    titleForDeleteConfirmationButtonForRowAtIndexPath:(NSIndexPath *)indexPath;
 @end
 
 /* A table. cellForRowAtIndexPath: asks the data source for a row's cell the first time after
@@ -104,23 +110,23 @@ UIKIT_EXTERN const CGFloat UITableViewAutomaticDimension;
   struct _SimTableGeometry *_geometry;
 }
 - (instancetype)initWithFrame:(CGRect)frame style:(UITableViewStyle)style;
-@property(nonatomic, readonly) UITableViewStyle style;
-@property(nonatomic, assign) id<UITableViewDataSource> dataSource;
-@property(nonatomic, assign) id<UITableViewDelegate> delegate;
-@property(nonatomic) CGFloat rowHeight;
-@property(nonatomic) CGFloat estimatedRowHeight;
-@property(nonatomic) CGFloat sectionHeaderHeight;
-@property(nonatomic) CGFloat sectionFooterHeight;
-@property(nonatomic, retain) UIColor *separatorColor;
-@property(nonatomic) UITableViewCellSeparatorStyle separatorStyle;
-@property(nonatomic) UIEdgeInsets separatorInset;
-@property(nonatomic, retain) UIView *tableHeaderView;
-@property(nonatomic, retain) UIView *tableFooterView;
-@property(nonatomic, retain) UIView *backgroundView;
-@property(nonatomic, getter=isEditing) BOOL editing;
-@property(nonatomic) BOOL allowsSelection;
-@property(nonatomic) BOOL allowsSelectionDuringEditing;
-@property(nonatomic) BOOL allowsMultipleSelection;
+@property (nonatomic, readonly) UITableViewStyle style;
+@property (nonatomic, assign) id<UITableViewDataSource> dataSource;
+@property (nonatomic, assign) id<UITableViewDelegate> delegate;
+@property (nonatomic) CGFloat rowHeight;
+@property (nonatomic) CGFloat estimatedRowHeight;
+@property (nonatomic) CGFloat sectionHeaderHeight;
+@property (nonatomic) CGFloat sectionFooterHeight;
+@property (nonatomic, retain) UIColor *separatorColor;
+@property (nonatomic) UITableViewCellSeparatorStyle separatorStyle;
+@property (nonatomic) UIEdgeInsets separatorInset;
+@property (nonatomic, retain) UIView *tableHeaderView;
+@property (nonatomic, retain) UIView *tableFooterView;
+@property (nonatomic, retain) UIView *backgroundView;
+@property (nonatomic, getter=isEditing) BOOL editing;
+@property (nonatomic) BOOL allowsSelection;
+@property (nonatomic) BOOL allowsSelectionDuringEditing;
+@property (nonatomic) BOOL allowsMultipleSelection;
 
 - (void)reloadData;
 - (void)reloadSections:(NSIndexSet *)sections withRowAnimation:(UITableViewRowAnimation)animation;
@@ -133,21 +139,25 @@ UIKIT_EXTERN const CGFloat UITableViewAutomaticDimension;
 - (void)endUpdates;
 - (void)setEditing:(BOOL)editing animated:(BOOL)animated;
 
-@property(nonatomic, readonly) NSInteger numberOfSections;
+@property (nonatomic, readonly) NSInteger numberOfSections;
 - (NSInteger)numberOfRowsInSection:(NSInteger)section;
 - (CGRect)rectForSection:(NSInteger)section;
 - (CGRect)rectForRowAtIndexPath:(NSIndexPath *)indexPath;
 - (NSIndexPath *)indexPathForCell:(UITableViewCell *)cell;
 - (NSIndexPath *)indexPathForRowAtPoint:(CGPoint)point;
 - (UITableViewCell *)cellForRowAtIndexPath:(NSIndexPath *)indexPath;
-@property(nonatomic, readonly) NSArray *visibleCells;
-@property(nonatomic, readonly) NSArray *indexPathsForVisibleRows;
+@property (nonatomic, readonly) NSArray *visibleCells;
+@property (nonatomic, readonly) NSArray *indexPathsForVisibleRows;
 - (UIView *)headerViewForSection:(NSInteger)section;
 - (UIView *)footerViewForSection:(NSInteger)section;
-- (void)scrollToRowAtIndexPath:(NSIndexPath *)indexPath atScrollPosition:(UITableViewScrollPosition)scrollPosition animated:(BOOL)animated;
+- (void)scrollToRowAtIndexPath:(NSIndexPath *)indexPath
+              atScrollPosition:(UITableViewScrollPosition)scrollPosition
+                      animated:(BOOL)animated;
 
-@property(nonatomic, readonly) NSIndexPath *indexPathForSelectedRow;
-- (void)selectRowAtIndexPath:(NSIndexPath *)indexPath animated:(BOOL)animated scrollPosition:(UITableViewScrollPosition)scrollPosition;
+@property (nonatomic, readonly) NSIndexPath *indexPathForSelectedRow;
+- (void)selectRowAtIndexPath:(NSIndexPath *)indexPath
+                    animated:(BOOL)animated
+              scrollPosition:(UITableViewScrollPosition)scrollPosition;
 - (void)deselectRowAtIndexPath:(NSIndexPath *)indexPath animated:(BOOL)animated;
 
 - (UITableViewCell *)dequeueReusableCellWithIdentifier:(NSString *)identifier;
