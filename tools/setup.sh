@@ -4,6 +4,7 @@ set -euo pipefail
 
 packages=(clang cmake make libgnustep-base-dev gnustep-make libobjc-12-dev libblocksruntime-dev
           googletest libgtest-dev libbenchmark-dev libclang-rt-14-dev locales
+          clang-format-14  # tools/format-check.sh
           clang-19 libc++-19-dev  # clang-19 and its libc++: tools/device-check.sh
           python3 libplist-utils  # plistlib and plistutil read what the plist writers write (PlistInterop)
           libcairo2-dev libpango1.0-dev fonts-inter fonts-noto-core fonts-noto-cjk)  # the host's pictures

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Builds and runs every test: the plain build, then the same suite under
+# Checks the sources' format, then builds and runs every test: the plain build, then the same suite under
 # AddressSanitizer and UndefinedBehaviorSanitizer, then the static analyser.
 set -euo pipefail
 top=$(cd "$(dirname "$0")/.." && pwd)
@@ -7,6 +7,9 @@ jobs=$(nproc)
 # The tests must not lean on the calling shell's locale (the stand-in compares and looks up
 # texts as the simulated device's language says): run them under a fresh container's.
 export LANG=C.UTF-8 LC_ALL=
+
+echo "== format (.clang-format)"
+"$top/tools/format-check.sh"
 
 echo "== build"
 "$top/tools/build.sh" "$top/build"
