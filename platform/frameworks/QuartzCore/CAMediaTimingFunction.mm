@@ -23,10 +23,16 @@ NSString *const kCAMediaTimingFunctionDefault = @"default";
   f->_name = [name copy];
   return [f autorelease];
 }
-+ (instancetype)functionWithControlPoints:(float)c1x:(float)c1y:(float)c2x:(float)c2y {
+// The unnamed parts of the selector need their blanks (-Wmissing-selector-name).
+// clang-format off
++ (instancetype)functionWithControlPoints:(float)c1x :(float)c1y :(float)c2x :(float)c2y {
+  // clang-format on
   return [[[self alloc] initWithControlPoints:c1x:c1y:c2x:c2y] autorelease];
 }
-- (instancetype)initWithControlPoints:(float)c1x:(float)c1y:(float)c2x:(float)c2y {
+// The unnamed parts of the selector need their blanks (-Wmissing-selector-name).
+// clang-format off
+- (instancetype)initWithControlPoints:(float)c1x :(float)c1y :(float)c2x :(float)c2y {
+  // clang-format on
   if ((self = [super init])) {
     _c1x = c1x;
     _c1y = c1y;

@@ -15,8 +15,11 @@ CA_EXTERN NSString *const kCAMediaTimingFunctionDefault;
 }
 @property (nonatomic, readonly, copy) NSString *name;
 + (instancetype)functionWithName:(NSString *)name;
-+ (instancetype)functionWithControlPoints:(float)c1x:(float)c1y:(float)c2x:(float)c2y;
-- (instancetype)initWithControlPoints:(float)c1x:(float)c1y:(float)c2x:(float)c2y;
+// The unnamed parts of the selector need their blanks (-Wmissing-selector-name).
+// clang-format off
++ (instancetype)functionWithControlPoints:(float)c1x :(float)c1y :(float)c2x :(float)c2y;
+- (instancetype)initWithControlPoints:(float)c1x :(float)c1y :(float)c2x :(float)c2y;
+// clang-format on
 - (void)getControlPointAtIndex:(size_t)idx values:(float[2])ptr;
 @end
 
