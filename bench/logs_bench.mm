@@ -29,26 +29,34 @@ NSString *freshLogDirectory() {
   if (SimDevicePath([kLogDirectory fileSystemRepresentation], path, sizeof path) == NULL) return nil;
   NSString *directory = [NSString stringWithUTF8String:path];
   [[NSFileManager defaultManager] removeItemAtPath:directory error:NULL];
-  [[NSFileManager defaultManager] createDirectoryAtPath:directory withIntermediateDirectories:YES attributes:nil error:NULL];
+  [[NSFileManager defaultManager] createDirectoryAtPath:directory
+                            withIntermediateDirectories:YES
+                                             attributes:nil
+                                                  error:NULL];
   return directory;
 }
 
 // `count` logs of distinct seconds, each naming its process, and the latest link.
 void writeLogs(NSString *directory, int count) {
-  static const char *const months[] = {"Jan", "Feb", "Mar", "Apr", "May", "Jun", "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
+  static const char *const months[] = {"Jan", "Feb", "Mar", "Apr", "May", "Jun",
+                                       "Jul", "Aug", "Sep", "Oct", "Nov", "Dec"};
   NSString *newest = nil;
   for (int i = 0; i < count; i++) {
-    NSString *name = [NSString stringWithFormat:@"Tessarin-%02d-%s-20%02d-%02d-%02d-%02d.log", 1 + i % 28, months[i % 12],
-                                                10 + i % 15, i % 24, i % 60, (i / 60) % 60];
+    NSString *name = [NSString stringWithFormat:@"Tessarin-%02d-%s-20%02d-%02d-%02d-%02d.log", 1 + i % 28,
+                                                months[i % 12], 10 + i % 15, i % 24, i % 60, (i / 60) % 60];
     NSString *text = [NSString stringWithFormat:@"Incident Identifier: %04X\nProcess: SpringBoard [%d]\n"
-                                                 @"Exception Type: NSInvalidArgumentException\nThread 0 Crashed:\n",
+                                                @"Exception Type: NSInvalidArgumentException\nThread 0 Crashed:\n",
                                                 i, 50 + i];
-    [text writeToFile:[directory stringByAppendingPathComponent:name] atomically:NO encoding:NSUTF8StringEncoding error:NULL];
+    [text writeToFile:[directory stringByAppendingPathComponent:name]
+           atomically:NO
+             encoding:NSUTF8StringEncoding
+                error:NULL];
     newest = name;
   }
   if (newest != nil) {
-    [[NSFileManager defaultManager] createSymbolicLinkAtPath:[directory stringByAppendingPathComponent:@"Latest-Tessarin.log"]
-                                         pathContent:[kLogDirectory stringByAppendingPathComponent:newest]];
+    [[NSFileManager defaultManager]
+        createSymbolicLinkAtPath:[directory stringByAppendingPathComponent:@"Latest-Tessarin.log"]
+                     pathContent:[kLogDirectory stringByAppendingPathComponent:newest]];
   }
 }
 
@@ -92,8 +100,13 @@ void viewerOpening(benchmark::State &state) {
   while ([log length] + [line length] <= bytes) [log appendData:line];
   [log writeToFile:[directory stringByAppendingPathComponent:name] atomically:NO];
 
-  PSSpecifier *row = [PSSpecifier preferenceSpecifierNamed:name target:nil set:NULL get:NULL
-                                                    detail:NSClassFromString(@"TessarinCrashLogViewer") cell:PSLinkCell edit:Nil];
+  PSSpecifier *row = [PSSpecifier preferenceSpecifierNamed:name
+                                                    target:nil
+                                                       set:NULL
+                                                       get:NULL
+                                                    detail:NSClassFromString(@"TessarinCrashLogViewer")
+                                                      cell:PSLinkCell
+                                                      edit:Nil];
   [row setProperty:name forKey:@"logFile"];
   std::vector<double> samples;
   for (auto _ : state) {

@@ -70,7 +70,15 @@ void ScreenPictureToPNG(benchmark::State &state) {
 
 }  // namespace
 
-BENCHMARK(ScreenPicture)->Iterations(1)->Repetitions(25)->DisplayAggregatesOnly(true)->UseManualTime()->Unit(
-    benchmark::kMillisecond);
-BENCHMARK(ScreenPictureToPNG)->Iterations(1)->Repetitions(9)->DisplayAggregatesOnly(true)->UseManualTime()->Unit(
-    benchmark::kMillisecond);
+BENCHMARK(ScreenPicture)
+    ->Iterations(1)
+    ->Repetitions(25)
+    ->DisplayAggregatesOnly(true)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);
+BENCHMARK(ScreenPictureToPNG)
+    ->Iterations(1)
+    ->Repetitions(9)
+    ->DisplayAggregatesOnly(true)
+    ->UseManualTime()
+    ->Unit(benchmark::kMillisecond);

@@ -41,9 +41,10 @@ void roundTrip(benchmark::State &state, NSString *message) {
   state.counters["p99_ms"] = p99 * 1e3;
   state.counters["p99_of_budget"] = p99 / kBudgetSeconds;
   state.counters["missing"] = (double)missing;
-  std::printf("%s: %zu round trips, median %.3f ms (%.4f of the 0.7 s budget), p99 %.3f ms (%.4f of it), %zu without reply\n",
-              [message UTF8String], latencies.size(), median * 1e3, median / kBudgetSeconds, p99 * 1e3,
-              p99 / kBudgetSeconds, missing);
+  std::printf(
+      "%s: %zu round trips, median %.3f ms (%.4f of the 0.7 s budget), p99 %.3f ms (%.4f of it), %zu without reply\n",
+      [message UTF8String], latencies.size(), median * 1e3, median / kBudgetSeconds, p99 * 1e3, p99 / kBudgetSeconds,
+      missing);
 }
 
 }  // namespace

@@ -7,7 +7,7 @@
 // Answers one message. `userInfo` is the request file's dictionary, or nil. The
 // result is the reply of a request/reply message (nil: no reply); for one-way
 // messages it is ignored.
-typedef NSDictionary *(^TessarinMessageHandler)(NSString *identifier, NSDictionary *userInfo);
+typedef NSDictionary * (^TessarinMessageHandler)(NSString *identifier, NSDictionary *userInfo);
 
 // The reply as the keyed archive written to the reply file.
 NSData *archivedReply(NSDictionary *reply);

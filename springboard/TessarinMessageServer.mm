@@ -46,7 +46,7 @@ NSData *archivedReply(NSDictionary *reply) {
   if (_running) return;
   notify_register_check(tessarin::kTransportSignal, &_token);
   CFNotificationCenterAddObserver(CFNotificationCenterGetDarwinNotifyCenter(), self, transportSignalled,
-                                  (CFStringRef)@(tessarin::kTransportSignal), NULL,
+                                  (CFStringRef) @(tessarin::kTransportSignal), NULL,
                                   CFNotificationSuspensionBehaviorDeliverImmediately);
   _running = YES;
 }
@@ -54,7 +54,7 @@ NSData *archivedReply(NSDictionary *reply) {
 - (void)stop {
   if (!_running) return;
   CFNotificationCenterRemoveObserver(CFNotificationCenterGetDarwinNotifyCenter(), self,
-                                     (CFStringRef)@(tessarin::kTransportSignal), NULL);
+                                     (CFStringRef) @(tessarin::kTransportSignal), NULL);
   notify_cancel(_token);
   _token = NOTIFY_TOKEN_INVALID;
   _running = NO;

@@ -20,7 +20,8 @@ double millisecondsSince(std::chrono::steady_clock::time_point start) {
 NSString *oneLine(id object) {
   if (object == nil) return @"(no reply)";
   NSString *text = [object description];
-  text = [[text componentsSeparatedByCharactersInSet:[NSCharacterSet newlineCharacterSet]] componentsJoinedByString:@" "];
+  text =
+      [[text componentsSeparatedByCharactersInSet:[NSCharacterSet newlineCharacterSet]] componentsJoinedByString:@" "];
   while ([text rangeOfString:@"  "].location != NSNotFound) {
     text = [text stringByReplacingOccurrencesOfString:@"  " withString:@" "];
   }
@@ -54,9 +55,8 @@ int runMessageProbe(void) {
       BOOL sent = [center sendMessageName:name userInfo:probe.userInfo];
       // Nothing answers a one-way message; wait until SpringBoard has taken it in, so the
       // next message does not replace its code before it is read.
-      SimRunLoopRunUntil(^BOOL {
-        return SimNotifyPostCount("net.corvane.tessarin.simulator.handled") > handled;
-      }, 1.0);
+      SimRunLoopRunUntil(
+          ^BOOL { return SimNotifyPostCount("net.corvane.tessarin.simulator.handled") > handled; }, 1.0);
       printf("  %s  %7.1f ms  one-way, %s\n", probe.identifier, millisecondsSince(start), sent ? "sent" : "not sent");
     }
     [pool drain];

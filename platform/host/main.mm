@@ -43,17 +43,18 @@ static void onSignal(int signo) {
 }
 
 static void usage(FILE *out) {
-  fprintf(out,
-          "usage: tessarin-settings [--profile NAME] [--language CODE] [--script FILE|-] [--messages] [--no-springboard]\n"
-          "                         [--keep-device] [--screenshot-dir DIR]\n"
-          "  --profile NAME    device profile (default %s)\n"
-          "  --language CODE   the user's language first (de, ja, ar, pt-BR, zh-Hans...), as chosen in Settings\n"
-          "  --script FILE     run the commands of FILE ('-': standard input) instead of asking\n"
-          "  --messages        send the bundle's messages to SpringBoard and print the replies\n"
-          "  --no-springboard  do not start the simulated SpringBoard\n"
-          "  --keep-device     leave the device tree in place at exit\n"
-          "  --screenshot-dir DIR  write a picture of the screen into DIR after every command\n\n%s",
-          SIM_DEFAULT_PROFILE, [[SettingsConsole helpText] UTF8String]);
+  fprintf(
+      out,
+      "usage: tessarin-settings [--profile NAME] [--language CODE] [--script FILE|-] [--messages] [--no-springboard]\n"
+      "                         [--keep-device] [--screenshot-dir DIR]\n"
+      "  --profile NAME    device profile (default %s)\n"
+      "  --language CODE   the user's language first (de, ja, ar, pt-BR, zh-Hans...), as chosen in Settings\n"
+      "  --script FILE     run the commands of FILE ('-': standard input) instead of asking\n"
+      "  --messages        send the bundle's messages to SpringBoard and print the replies\n"
+      "  --no-springboard  do not start the simulated SpringBoard\n"
+      "  --keep-device     leave the device tree in place at exit\n"
+      "  --screenshot-dir DIR  write a picture of the screen into DIR after every command\n\n%s",
+      SIM_DEFAULT_PROFILE, [[SettingsConsole helpText] UTF8String]);
 }
 
 static void emit(NSString *text) {
@@ -73,8 +74,10 @@ static void screenshotAfter(NSString *command) {
   for (NSUInteger i = 0; i < [command length] && [name length] < 40; i++) {
     unichar c = [command characterAtIndex:i];
     bool plain = (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9');
-    if (plain) [name appendFormat:@"%C", c];
-    else if ([name length] > 0 && ![name hasSuffix:@"-"]) [name appendString:@"-"];
+    if (plain)
+      [name appendFormat:@"%C", c];
+    else if ([name length] > 0 && ![name hasSuffix:@"-"])
+      [name appendString:@"-"];
   }
   while ([name hasSuffix:@"-"]) [name deleteCharactersInRange:NSMakeRange([name length] - 1, 1)];
   NSString *file = [NSString stringWithFormat:@"%03u%@%@.png", gScreenshots++, [name length] > 0 ? @"-" : @"", name];
@@ -166,8 +169,8 @@ int main(int argc, char **argv) {
     return 2;
   }
   NSString *profileName = [SimDeviceProfile() objectForKey:@"name"];
-  printf("Device: %s%s%s%s\n", profile, profileName != nil ? " (" : "", profileName != nil ? [profileName UTF8String] : "",
-         profileName != nil ? ")" : "");
+  printf("Device: %s%s%s%s\n", profile, profileName != nil ? " (" : "",
+         profileName != nil ? [profileName UTF8String] : "", profileName != nil ? ")" : "");
   NSArray *languages = SimUserLanguages();
   printf("Languages: %s\n", [[languages componentsJoinedByString:@", "] UTF8String]);
   if (gKeepDevice) printf("Device tree: %s\n", root);
@@ -202,7 +205,9 @@ int main(int argc, char **argv) {
   }
   emit([console render]);
   if (gScreenshotDir != nil) {
-    [[NSFileManager defaultManager] createDirectoryAtPath:gScreenshotDir withIntermediateDirectories:YES attributes:nil
+    [[NSFileManager defaultManager] createDirectoryAtPath:gScreenshotDir
+                              withIntermediateDirectories:YES
+                                               attributes:nil
                                                     error:NULL];
     screenshotAfter(@"start");
   }

@@ -17,12 +17,11 @@ extern "C" {
    Weak, so code built without the stand-in library keeps the system's dlsym. */
 int SimSymbolIsMissing(const char *name) __attribute__((weak));
 
-static inline void *SimDlsym(void *handle, const char *name)
-{
+static inline void *SimDlsym(void *handle, const char *name) {
 #ifdef RTLD_DEFAULT
-    if (handle == RTLD_DEFAULT && SimSymbolIsMissing != 0 && SimSymbolIsMissing(name)) return 0;
+  if (handle == RTLD_DEFAULT && SimSymbolIsMissing != 0 && SimSymbolIsMissing(name)) return 0;
 #endif
-    return dlsym(handle, name);
+  return dlsym(handle, name);
 }
 
 #ifdef __cplusplus

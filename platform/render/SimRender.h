@@ -19,13 +19,13 @@
   BOOL _truncated;
   NSInteger _row;
 }
-@property(nonatomic, copy) NSString *text;
-@property(nonatomic, assign) CGRect frame;
-@property(nonatomic, assign) CGRect clip;
+@property (nonatomic, copy) NSString *text;
+@property (nonatomic, assign) CGRect frame;
+@property (nonatomic, assign) CGRect clip;
 /* An ellipsis stands for text that did not fit. */
-@property(nonatomic, assign) BOOL truncated;
+@property (nonatomic, assign) BOOL truncated;
 /* Index into the picture's rows of the row it was drawn in, or -1. */
-@property(nonatomic, assign) NSInteger row;
+@property (nonatomic, assign) NSInteger row;
 @end
 
 /* A table row as drawn: its cell, its title and where it lies on the screen (points). */
@@ -35,11 +35,11 @@
   CGRect _frame;
   CGRect _visibleFrame;
 }
-@property(nonatomic, retain) UITableViewCell *cell;
-@property(nonatomic, copy) NSString *title;
+@property (nonatomic, retain) UITableViewCell *cell;
+@property (nonatomic, copy) NSString *title;
 /* The cell's whole frame, and the part of it the screen shows. */
-@property(nonatomic, assign) CGRect frame;
-@property(nonatomic, assign) CGRect visibleFrame;
+@property (nonatomic, assign) CGRect frame;
+@property (nonatomic, assign) CGRect visibleFrame;
 @end
 
 /* A control as drawn, for checks of its state ("switch", "slider", "segments", "field"). */
@@ -48,9 +48,9 @@
   NSString *_kind;
   CGRect _frame;
 }
-@property(nonatomic, retain) UIView *view;
-@property(nonatomic, copy) NSString *kind;
-@property(nonatomic, assign) CGRect frame;
+@property (nonatomic, retain) UIView *view;
+@property (nonatomic, copy) NSString *kind;
+@property (nonatomic, assign) CGRect frame;
 @end
 
 @interface SimScreenPicture : NSObject {
@@ -63,17 +63,17 @@
   NSString *_title;
 }
 /* The screen's size in points and its scale (pixels per point). */
-@property(nonatomic, readonly) CGSize size;
-@property(nonatomic, readonly) CGFloat scale;
-@property(nonatomic, readonly) size_t pixelWidth;
-@property(nonatomic, readonly) size_t pixelHeight;
+@property (nonatomic, readonly) CGSize size;
+@property (nonatomic, readonly) CGFloat scale;
+@property (nonatomic, readonly) size_t pixelWidth;
+@property (nonatomic, readonly) size_t pixelHeight;
 /* The title of the page on top. */
-@property(nonatomic, copy) NSString *title;
-@property(nonatomic, copy) NSArray *texts;     /* SimDrawnText, in drawing order */
-@property(nonatomic, copy) NSArray *rows;      /* SimDrawnRow, top to bottom */
-@property(nonatomic, copy) NSArray *controls;  /* SimDrawnControl */
+@property (nonatomic, copy) NSString *title;
+@property (nonatomic, copy) NSArray *texts;    /* SimDrawnText, in drawing order */
+@property (nonatomic, copy) NSArray *rows;     /* SimDrawnRow, top to bottom */
+@property (nonatomic, copy) NSArray *controls; /* SimDrawnControl */
 /* The pixels (ARGB32, premultiplied). */
-@property(nonatomic, readonly) cairo_surface_t *surface;
+@property (nonatomic, readonly) cairo_surface_t *surface;
 /* The colour at a point of the screen (0 to 255 each, not premultiplied). */
 - (void)getRed:(int *)red green:(int *)green blue:(int *)blue alpha:(int *)alpha atPoint:(CGPoint)point;
 /* Writes the picture as a PNG; `scale` > 0 writes it at that scale instead (a smaller copy). */

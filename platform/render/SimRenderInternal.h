@@ -20,10 +20,10 @@ struct Canvas {
   cairo_surface_t *surface = nullptr;
   CGSize size = CGSizeZero;  // points
   CGFloat scale = 1;
-  int system = 16;           // the profile's major system version
+  int system = 16;  // the profile's major system version
   bool pad = false;
   bool dark = false;
-  bool rightToLeft = false;  // the user's language is written right to left: the UI is mirrored
+  bool rightToLeft = false;        // the user's language is written right to left: the UI is mirrored
   NSMutableArray *rows = nil;      // SimDrawnRow
   NSMutableArray *controls = nil;  // SimDrawnControl
   // Text records drawn while each row was drawn: [first, end) into the text records.
@@ -60,8 +60,8 @@ void setRightToLeft(bool rightToLeft);
 bool rightToLeft();
 
 // Text: lays out, draws and returns the laid-out size. `width` <= 0: one unbounded line.
-CGSize drawText(cairo_t *cr, NSString *text, SimTextFont font, Rgba colour, CGRect box, int alignment,
-                NSInteger lines, bool centreVertically, bool truncate);
+CGSize drawText(cairo_t *cr, NSString *text, SimTextFont font, Rgba colour, CGRect box, int alignment, NSInteger lines,
+                bool centreVertically, bool truncate);
 CGSize measureText(NSString *text, SimTextFont font, CGFloat width, NSInteger lines);
 SimTextFont systemFont(CGFloat size, int weight);
 SimTextFont fontOf(UIFont *font, SimTextFont fallback);

@@ -201,12 +201,18 @@ NSString *systemItemTitle(UIBarButtonItem *item) {
   }
   if (![value respondsToSelector:@selector(integerValue)]) return nil;
   switch ([value integerValue]) {
-    case UIBarButtonSystemItemDone: return @"Done";
-    case UIBarButtonSystemItemCancel: return @"Cancel";
-    case UIBarButtonSystemItemEdit: return @"Edit";
-    case UIBarButtonSystemItemSave: return @"Save";
-    case UIBarButtonSystemItemAdd: return @"+";
-    default: return nil;
+    case UIBarButtonSystemItemDone:
+      return @"Done";
+    case UIBarButtonSystemItemCancel:
+      return @"Cancel";
+    case UIBarButtonSystemItemEdit:
+      return @"Edit";
+    case UIBarButtonSystemItemSave:
+      return @"Save";
+    case UIBarButtonSystemItemAdd:
+      return @"+";
+    default:
+      return nil;
   }
 }
 
@@ -227,8 +233,8 @@ double drawBarButton(Canvas &canvas, UIBarButtonItem *item, double edge, bool al
   if (title != nil) {
     SimTextFont font = systemFont(17, [item style] == UIBarButtonItemStyleDone ? 600 : 400);
     double w = measureText(title, font, 0, 1).width;
-    drawText(cr, title, font, tint, CGRectMake(alignRight ? edge - w : edge, cy - 15, w, 30), SimTextAlignLeft, 1,
-             true, false);
+    drawText(cr, title, font, tint, CGRectMake(alignRight ? edge - w : edge, cy - 15, w, 30), SimTextAlignLeft, 1, true,
+             false);
     return w;
   }
   UIImage *image = [item image];
@@ -349,7 +355,7 @@ Rgba pageBackground(UIViewController *page, UITableView *table) {
   UIView *view = [page isViewLoaded] ? [page view] : nil;
   Rgba colour = rgbaOfCG([[view layer] backgroundColor], Rgba{0, 0, 0, 0});
   if (colour.a > 0) return colour;
-  return rgbaOf([UIColor systemBackgroundColor], Rgba{1, 1, 1, 1});
+  return rgbaOf([UIColor systemBackgroundColor], Rgba { 1, 1, 1, 1 });
 }
 
 // A page with its bar in `column`: `top` is where the bar starts (under the status bar).
@@ -370,7 +376,11 @@ void drawColumn(Canvas &canvas, UIViewController *controller, CGRect column, dou
   UITableView *table = tableOf(page);
   bool bar = navigation != nil && ![navigation isNavigationBarHidden];
   bool large = bar && isLargeTitlePage(canvas, page);
-  double barHeight = !bar ? 0 : large ? (canvas.pad ? 50 : 44) + 52 : sheet && canvas.system >= 13 ? 56 : canvas.pad ? 50 : 44;
+  double barHeight = !bar                           ? 0
+                     : large                        ? (canvas.pad ? 50 : 44) + 52
+                     : sheet && canvas.system >= 13 ? 56
+                     : canvas.pad                   ? 50
+                                                    : 44;
   double contentTop = top + barHeight;
 
   cairo_save(cr);
@@ -382,9 +392,10 @@ void drawColumn(Canvas &canvas, UIViewController *controller, CGRect column, dou
     MFMailComposeViewController *mail = (MFMailComposeViewController *)controller;
     double y = contentTop + 4, x = column.origin.x + 16, w = column.size.width - 32;
     NSArray *to = [mail _simToRecipients];
-    NSArray *fields = @[ @[ @"To:", to != nil ? [to componentsJoinedByString:@", "] : @"" ],
-                         @[ @"Cc/Bcc, From:", @"" ],
-                         @[ @"Subject:", [mail _simSubject] != nil ? [mail _simSubject] : @"" ] ];
+    NSArray *fields = @[
+      @[ @"To:", to != nil ? [to componentsJoinedByString:@", "] : @"" ], @[ @"Cc/Bcc, From:", @"" ],
+      @[ @"Subject:", [mail _simSubject] != nil ? [mail _simSubject] : @"" ]
+    ];
     for (NSArray *field in fields) {
       double lw = measureText([field objectAtIndex:0], systemFont(15, 400), 0, 1).width;
       drawText(cr, [field objectAtIndex:0], systemFont(15, 400), secondaryLabelColour(), CGRectMake(x, y, lw, 44),
@@ -415,7 +426,8 @@ void drawColumn(Canvas &canvas, UIViewController *controller, CGRect column, dou
   }
   if (bar) {
     bool solid = canvas.system < 15 || sheet || table == nil || [table contentOffset].y > 1;
-    if (!solid) fillRect(cr, CGRectMake(column.origin.x, top, column.size.width, barHeight), pageBackground(page, table));
+    if (!solid)
+      fillRect(cr, CGRectMake(column.origin.x, top, column.size.width, barHeight), pageBackground(page, table));
     drawNavigationBar(canvas, navigation, page, CGRectMake(column.origin.x, top, column.size.width, barHeight), large,
                       solid);
   }
@@ -432,7 +444,7 @@ void drawAlert(Canvas &canvas, UIAlertController *alert) {
   NSString *title = nonEmpty([alert title]), *message = nonEmpty([alert message]);
   Rgba material = canvas.dark ? Rgba{0.17, 0.17, 0.18, 0.97} : Rgba{0.95, 0.95, 0.95, 0.97};
   Rgba line = canvas.dark ? Rgba{1, 1, 1, 0.12} : Rgba{0.235, 0.235, 0.263, 0.29};
-  Rgba tint = tintColour(), red = rgbaOf([UIColor systemRedColor], Rgba{1, 0.231, 0.188, 1});
+  Rgba tint = tintColour(), red = rgbaOf([UIColor systemRedColor], Rgba { 1, 0.231, 0.188, 1 });
 
   double width = sheet ? canvas.size.width - 16 : 270;
   double inner = width - 32;
@@ -462,8 +474,10 @@ void drawAlert(Canvas &canvas, UIAlertController *alert) {
         [ordered addObject:action];
     }
     if (cancelAction != nil) {
-      if (sideBySide) [ordered insertObject:cancelAction atIndex:0];
-      else [ordered addObject:cancelAction];
+      if (sideBySide)
+        [ordered insertObject:cancelAction atIndex:0];
+      else
+        [ordered addObject:cancelAction];
     }
     plain = ordered;
   }
@@ -480,8 +494,8 @@ void drawAlert(Canvas &canvas, UIAlertController *alert) {
   cairo_fill(cr);
   double ty = y + 20;
   if (title) {
-    drawText(cr, title, titleFont, sheet ? secondaryLabelColour() : labelColour(), CGRectMake(x + 16, ty, inner, titleH),
-             SimTextAlignCenter, 0, false, false);
+    drawText(cr, title, titleFont, sheet ? secondaryLabelColour() : labelColour(),
+             CGRectMake(x + 16, ty, inner, titleH), SimTextAlignCenter, 0, false, false);
     ty += titleH + 2;
   }
   if (message) {
@@ -495,8 +509,8 @@ void drawAlert(Canvas &canvas, UIAlertController *alert) {
                                : CGRectMake(x, by + i * buttonH, width, buttonH);
     if (i == 0 || !sideBySide) hairline(canvas, x, button.origin.y, x + width, button.origin.y, line);
     if (sideBySide && i == 1) hairline(canvas, button.origin.x, by, button.origin.x, by + buttonH, line);
-    bool preferred = [alert preferredAction] == action || ([alert preferredAction] == nil && !sheet &&
-                                                           [action style] == UIAlertActionStyleCancel);
+    bool preferred = [alert preferredAction] == action ||
+                     ([alert preferredAction] == nil && !sheet && [action style] == UIAlertActionStyleCancel);
     Rgba colour = [action style] == UIAlertActionStyleDestructive ? red : tint;
     if (![action isEnabled]) colour = tertiaryLabelColour();
     drawText(cr, [action title], systemFont(sheet ? 20 : 17, preferred ? 600 : 400), colour, CGRectInset(button, 8, 0),
@@ -531,8 +545,8 @@ SimScreenPicture *SimRenderSettingsScreen(BOOL fullPage) {
   canvas.system = majorVersion();
   canvas.pad = [[UIDevice currentDevice] userInterfaceIdiom] == UIUserInterfaceIdiomPad;
   canvas.dark = [[UITraitCollection currentTraitCollection] userInterfaceStyle] == UIUserInterfaceStyleDark;
-  canvas.rightToLeft = [[UIApplication sharedApplication] userInterfaceLayoutDirection] ==
-                       UIUserInterfaceLayoutDirectionRightToLeft;
+  canvas.rightToLeft =
+      [[UIApplication sharedApplication] userInterfaceLayoutDirection] == UIUserInterfaceLayoutDirectionRightToLeft;
   setRightToLeft(canvas.rightToLeft);
   canvas.rows = [NSMutableArray array];
   canvas.controls = [NSMutableArray array];
@@ -550,7 +564,8 @@ SimScreenPicture *SimRenderSettingsScreen(BOOL fullPage) {
     level = next;
   }
   UIViewController *topPage = topOf([presented count] > 0 ? [presented lastObject] : root);
-  if ([topPage isKindOfClass:[UIAlertController class]]) topPage = topOf([presented count] > 1 ? [presented objectAtIndex:[presented count] - 2] : root);
+  if ([topPage isKindOfClass:[UIAlertController class]])
+    topPage = topOf([presented count] > 1 ? [presented objectAtIndex:[presented count] - 2] : root);
 
   // A whole page: as tall as the table on top needs.
   double statusHeight = 0;

@@ -126,7 +126,8 @@ StandardParts placeStandardParts(UITableViewCell *cell, CGSize size, double marg
       break;
     case UITableViewCellStyleSubtitle: {
       double th = [[title text] length] > 0 ? measureText([title text], titleFont, available, 1).height : 0;
-      double dh = [detailText length] > 0 ? measureText(detailText, detailFont, available, [detail numberOfLines]).height : 0;
+      double dh =
+          [detailText length] > 0 ? measureText(detailText, detailFont, available, [detail numberOfLines]).height : 0;
       double top = floor((h - th - dh) / 2);
       parts.title = CGRectMake(x, top, available, th);
       parts.detail = CGRectMake(x, top + th, available, dh);
@@ -164,8 +165,8 @@ void drawCell(Canvas &canvas, UITableView *table, UITableViewCell *cell, CGRect 
   fillRect(cr, CGRectMake(0, 0, size.width, size.height), background);
   if ([cell backgroundView] != nil) drawViewAt(canvas, [cell backgroundView], CGPointZero);
 
-  UIView *accessory = [cell isEditing] && [cell editingAccessoryView] != nil ? [cell editingAccessoryView]
-                                                                            : [cell accessoryView];
+  UIView *accessory =
+      [cell isEditing] && [cell editingAccessoryView] != nil ? [cell editingAccessoryView] : [cell accessoryView];
   UITableViewCellAccessoryType type = [cell isEditing] ? [cell editingAccessoryType] : [cell accessoryType];
   double margin = look.content;
   double accessoryRoom = 0;
@@ -200,15 +201,17 @@ void drawCell(Canvas &canvas, UITableView *table, UITableViewCell *cell, CGRect 
       UILabel *detail = [cell detailTextLabel];
       Rgba colour = rgbaOf([detail textColor], secondaryLabelColour());
       if (![detail isEnabled]) colour = tertiaryLabelColour();
-      int alignment = [cell style] == UITableViewCellStyleValue1 ? (canvas.rightToLeft ? SimTextAlignLeft : SimTextAlignRight)
-                                                                 : (int)[detail textAlignment];
+      int alignment = [cell style] == UITableViewCellStyleValue1
+                          ? (canvas.rightToLeft ? SimTextAlignLeft : SimTextAlignRight)
+                          : (int)[detail textAlignment];
       drawText(cr, [detail text], fontOf([detail font], systemFont(subtitle ? 12 : 17, 400)), colour, parts.detail,
                alignment, subtitle ? [detail numberOfLines] : 1, true, true);
     }
     for (UIView *subview in [content subviews]) {
       if (subview == iconView || subview == [cell textLabel] || subview == [cell detailTextLabel]) continue;
-      drawViewAt(canvas, subview, CGPointMake([content frame].origin.x + [subview frame].origin.x,
-                                              [content frame].origin.y + [subview frame].origin.y));
+      drawViewAt(canvas, subview,
+                 CGPointMake([content frame].origin.x + [subview frame].origin.x,
+                             [content frame].origin.y + [subview frame].origin.y));
     }
     separatorX = parts.textX;
   } else {
@@ -313,7 +316,8 @@ void drawTable(Canvas &canvas, UITableView *table, CGRect column, CGFloat conten
 
   UIView *header = [table tableHeaderView];
   if (header != nil && ![header isHidden]) {
-    drawSectionView(canvas, header, CGRectMake(x, originY + [header frame].origin.y, width, [header frame].size.height));
+    drawSectionView(canvas, header,
+                    CGRectMake(x, originY + [header frame].origin.y, width, [header frame].size.height));
   }
 
   id delegate = [table delegate];
@@ -328,7 +332,8 @@ void drawTable(Canvas &canvas, UITableView *table, CGRect column, CGFloat conten
       rowsTop = rowsBottom = sectionRect.origin.y + headerHeight(table, section);
     } else {
       rowsTop = [table rectForRowAtIndexPath:[NSIndexPath indexPathForRow:0 inSection:section]].origin.y;
-      rowsBottom = CGRectGetMaxY([table rectForRowAtIndexPath:[NSIndexPath indexPathForRow:rows - 1 inSection:section]]);
+      rowsBottom = CGRectGetMaxY([table rectForRowAtIndexPath:[NSIndexPath indexPathForRow:rows - 1
+                                                                                 inSection:section]]);
     }
 
     // The header: the delegate's view, or its title in small capitals just above the rows.

@@ -35,14 +35,26 @@ Rgba rgbaOfCG(CGColorRef color, Rgba fallback) {
 
 void setSource(cairo_t *cr, Rgba c) { cairo_set_source_rgba(cr, c.r, c.g, c.b, c.a); }
 
-Rgba labelColour() { return rgbaOf([UIColor labelColor], Rgba{0, 0, 0, 1}); }
-Rgba secondaryLabelColour() { return rgbaOf([UIColor secondaryLabelColor], Rgba{0.235, 0.235, 0.263, 0.6}); }
-Rgba tertiaryLabelColour() { return rgbaOf([UIColor tertiaryLabelColor], Rgba{0.235, 0.235, 0.263, 0.3}); }
-Rgba separatorColour() { return rgbaOf([UIColor separatorColor], Rgba{0.235, 0.235, 0.263, 0.29}); }
-Rgba tintColour() { return rgbaOf([UIColor systemBlueColor], Rgba{0, 0.478, 1, 1}); }
-Rgba groupedBackgroundColour() { return rgbaOf([UIColor systemGroupedBackgroundColor], Rgba{0.949, 0.949, 0.969, 1}); }
+Rgba labelColour() {
+  return rgbaOf([UIColor labelColor], Rgba { 0, 0, 0, 1 });
+}
+Rgba secondaryLabelColour() {
+  return rgbaOf([UIColor secondaryLabelColor], Rgba { 0.235, 0.235, 0.263, 0.6 });
+}
+Rgba tertiaryLabelColour() {
+  return rgbaOf([UIColor tertiaryLabelColor], Rgba { 0.235, 0.235, 0.263, 0.3 });
+}
+Rgba separatorColour() {
+  return rgbaOf([UIColor separatorColor], Rgba { 0.235, 0.235, 0.263, 0.29 });
+}
+Rgba tintColour() {
+  return rgbaOf([UIColor systemBlueColor], Rgba { 0, 0.478, 1, 1 });
+}
+Rgba groupedBackgroundColour() {
+  return rgbaOf([UIColor systemGroupedBackgroundColor], Rgba { 0.949, 0.949, 0.969, 1 });
+}
 Rgba cellBackgroundColour() {
-  return rgbaOf([UIColor secondarySystemGroupedBackgroundColor], Rgba{1, 1, 1, 1});
+  return rgbaOf([UIColor secondarySystemGroupedBackgroundColor], Rgba { 1, 1, 1, 1 });
 }
 
 #pragma mark - Shapes
@@ -155,8 +167,8 @@ CGSize measureText(NSString *text, SimTextFont font, CGFloat width, NSInteger li
   return size;
 }
 
-CGSize drawText(cairo_t *cr, NSString *text, SimTextFont font, Rgba colour, CGRect box, int alignment,
-                NSInteger lines, bool centreVertically, bool truncate) {
+CGSize drawText(cairo_t *cr, NSString *text, SimTextFont font, Rgba colour, CGRect box, int alignment, NSInteger lines,
+                bool centreVertically, bool truncate) {
   if (![text isKindOfClass:[NSString class]] || [text length] == 0) return CGSizeZero;
   CGFloat width = box.size.width;
   // Natural alignment follows the interface's direction (a mirrored interface sets text right).
@@ -267,7 +279,7 @@ static void drawSwitch(Canvas &canvas, UISwitch *control, CGRect bounds) {
   bool on = [control isOn];
   cairo_save(cr);
   if (![control isEnabled]) cairo_push_group(cr);
-  Rgba green = rgbaOf([control onTintColor], rgbaOf([UIColor systemGreenColor], Rgba{0.204, 0.78, 0.349, 1}));
+  Rgba green = rgbaOf([control onTintColor], rgbaOf([UIColor systemGreenColor], Rgba { 0.204, 0.78, 0.349, 1 }));
   if (on) {
     roundedRect(cr, track, 15.5);
     setSource(cr, green);
@@ -288,7 +300,7 @@ static void drawSwitch(Canvas &canvas, UISwitch *control, CGRect bounds) {
   // A mirrored interface mirrors the switch: on, its knob is at the left.
   bool knobRight = on != gRightToLeft;
   double knobX = knobRight ? CGRectGetMaxX(track) - 15.5 : track.origin.x + 15.5;
-  Rgba knob = rgbaOf([control thumbTintColor], Rgba{1, 1, 1, 1});
+  Rgba knob = rgbaOf([control thumbTintColor], Rgba { 1, 1, 1, 1 });
   shadowedCircle(cr, knobX, CGRectGetMidY(track), 13.5, knob, canvas.dark);
   if (![control isEnabled]) {
     cairo_pop_group_to_source(cr);
@@ -350,8 +362,8 @@ static void drawSegments(Canvas &canvas, UISegmentedControl *control, CGRect bou
     setSource(cr, canvas.dark ? Rgba{0.463, 0.463, 0.502, 0.24} : Rgba{0.463, 0.463, 0.502, 0.12});
     cairo_fill(cr);
     if (selected >= 0 && (NSUInteger)selected < count) {
-      CGRect chosen = CGRectInset(CGRectMake(bounds.origin.x + segment * selected, bounds.origin.y, segment,
-                                             bounds.size.height), 2, 2);
+      CGRect chosen = CGRectInset(
+          CGRectMake(bounds.origin.x + segment * selected, bounds.origin.y, segment, bounds.size.height), 2, 2);
       roundedRect(cr, CGRectOffset(chosen, 0, 1), 6.93);
       cairo_set_source_rgba(cr, 0, 0, 0, 0.06);
       cairo_fill(cr);
@@ -508,7 +520,8 @@ static void drawImageView(Canvas &canvas, UIImageView *view, CGRect bounds) {
 // the print in its primary colour.
 static void drawFingerprint(Canvas &canvas, UIView *view, CGRect bounds) {
   cairo_t *cr = canvas.cr;
-  UIColor *primary = [view respondsToSelector:@selector(primaryColor)] ? [view performSelector:@selector(primaryColor)] : nil;
+  UIColor *primary =
+      [view respondsToSelector:@selector(primaryColor)] ? [view performSelector:@selector(primaryColor)] : nil;
   double side = fmin(bounds.size.width, bounds.size.height);
   if (side <= 0) return;
   double cx = CGRectGetMidX(bounds), cy = CGRectGetMidY(bounds) + side * 0.04, unit = side * 0.42;
@@ -517,9 +530,8 @@ static void drawFingerprint(Canvas &canvas, UIView *view, CGRect bounds) {
   cairo_set_line_width(cr, unit * 0.085);
   cairo_set_line_cap(cr, CAIRO_LINE_CAP_ROUND);
   // Each ridge: its radius and the part of the circle it covers (radians, from the right).
-  static const double ridges[][3] = {{0.18, -2.6, 0.5},  {0.36, -2.9, -0.1}, {0.36, 0.35, 1.1},
-                                     {0.54, -3.0, -0.25}, {0.54, 0.1, 0.8},  {0.72, -2.95, -0.45},
-                                     {0.72, -0.2, 0.45},  {0.9, -2.7, -0.65}};
+  static const double ridges[][3] = {{0.18, -2.6, 0.5}, {0.36, -2.9, -0.1},   {0.36, 0.35, 1.1},  {0.54, -3.0, -0.25},
+                                     {0.54, 0.1, 0.8},  {0.72, -2.95, -0.45}, {0.72, -0.2, 0.45}, {0.9, -2.7, -0.65}};
   for (const auto &ridge : ridges) {
     cairo_new_sub_path(cr);
     cairo_arc(cr, cx, cy, unit * ridge[0], ridge[1], ridge[2]);
@@ -581,10 +593,10 @@ static void drawShapeLayer(Canvas &canvas, CAShapeLayer *shape) {
   if (path == NULL) return;
   cairo_t *cr = canvas.cr;
   SimCGAppendPathToCairo(cr, path);
-  Rgba fill = rgbaOfCG([shape fillColor], Rgba{0, 0, 0, 0});
-  Rgba stroke = rgbaOfCG([shape strokeColor], Rgba{0, 0, 0, 0});
-  cairo_set_fill_rule(cr, [[shape fillRule] isEqualToString:@"even-odd"] ? CAIRO_FILL_RULE_EVEN_ODD
-                                                                          : CAIRO_FILL_RULE_WINDING);
+  Rgba fill = rgbaOfCG([shape fillColor], Rgba { 0, 0, 0, 0 });
+  Rgba stroke = rgbaOfCG([shape strokeColor], Rgba { 0, 0, 0, 0 });
+  cairo_set_fill_rule(
+      cr, [[shape fillRule] isEqualToString:@"even-odd"] ? CAIRO_FILL_RULE_EVEN_ODD : CAIRO_FILL_RULE_WINDING);
   if (fill.a > 0) {
     setSource(cr, fill);
     cairo_fill_preserve(cr);
@@ -594,10 +606,10 @@ static void drawShapeLayer(Canvas &canvas, CAShapeLayer *shape) {
     cairo_set_line_width(cr, [shape lineWidth]);
     cairo_set_line_cap(cr, [[shape lineCap] isEqualToString:@"round"]    ? CAIRO_LINE_CAP_ROUND
                            : [[shape lineCap] isEqualToString:@"square"] ? CAIRO_LINE_CAP_SQUARE
-                                                                          : CAIRO_LINE_CAP_BUTT);
+                                                                         : CAIRO_LINE_CAP_BUTT);
     cairo_set_line_join(cr, [[shape lineJoin] isEqualToString:@"round"]   ? CAIRO_LINE_JOIN_ROUND
                             : [[shape lineJoin] isEqualToString:@"bevel"] ? CAIRO_LINE_JOIN_BEVEL
-                                                                           : CAIRO_LINE_JOIN_MITER);
+                                                                          : CAIRO_LINE_JOIN_MITER);
     cairo_stroke_preserve(cr);
   }
   cairo_new_path(cr);
@@ -632,7 +644,7 @@ static void drawLayerBody(Canvas &canvas, CALayer *layer) {
   UIView *view = [delegate isKindOfClass:[UIView class]] ? (UIView *)delegate : nil;
   double radius = [layer cornerRadius];
 
-  Rgba background = rgbaOfCG([layer backgroundColor], Rgba{0, 0, 0, 0});
+  Rgba background = rgbaOfCG([layer backgroundColor], Rgba { 0, 0, 0, 0 });
   if (background.a > 0) {
     roundedRect(cr, b, radius);
     setSource(cr, background);
@@ -645,7 +657,8 @@ static void drawLayerBody(Canvas &canvas, CALayer *layer) {
   }
   id contents = [layer contents];
   if (contents != nil) {
-    UIImage *image = [UIImage imageWithCGImage:(CGImageRef)contents scale:[layer contentsScale] > 0 ? [layer contentsScale] : 1
+    UIImage *image = [UIImage imageWithCGImage:(CGImageRef)contents
+                                         scale:[layer contentsScale] > 0 ? [layer contentsScale] : 1
                                    orientation:UIImageOrientationUp];
     drawImage(canvas, image, b, NULL);
   }
@@ -676,7 +689,7 @@ static void drawLayerBody(Canvas &canvas, CALayer *layer) {
   if ([layer borderWidth] > 0) {
     double w = [layer borderWidth];
     roundedRect(cr, CGRectInset(b, w / 2, w / 2), fmax(radius - w / 2, 0));
-    setSource(cr, rgbaOfCG([layer borderColor], Rgba{0, 0, 0, 1}));
+    setSource(cr, rgbaOfCG([layer borderColor], Rgba { 0, 0, 0, 1 }));
     cairo_set_line_width(cr, w);
     cairo_stroke(cr);
   }

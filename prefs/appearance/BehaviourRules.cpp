@@ -3,8 +3,8 @@
 namespace tessarin::behaviour {
 
 bool showsDelayRow(std::string_view row, bool waitUntilFinished) {
-    if (row == kDelayTimeRow || row == kWaitDelayRow) return !waitUntilFinished;
-    return true;
+  if (row == kDelayTimeRow || row == kWaitDelayRow) return !waitUntilFinished;
+  return true;
 }
 
 bool reloadsDelayPage(std::string_view row) { return row == kWaitTillFinishRow; }

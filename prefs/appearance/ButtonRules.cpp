@@ -55,18 +55,25 @@ bool glyph::reappliesPaletteBeforeLastStep(const SystemVersionFlags &flags) { re
 glyph::Look glyph::look(int glyph, const SystemVersionFlags &flags) {
   if (flags.iOS11) return {0, hookPaletteStyle(glyph), {}, {}};
   switch (glyph) {
-    case 0: return {1, 0, {}, {}};
-    case 1: return {1, 0, "305a94", "8a9bb1"};
-    default: return {0, 0, {}, {}};
+    case 0:
+      return {1, 0, {}, {}};
+    case 1:
+      return {1, 0, "305a94", "8a9bb1"};
+    default:
+      return {0, 0, {}, {}};
   }
 }
 
 int glyph::hookPaletteStyle(int glyph) {
   switch (glyph) {
-    case 0: return 3;
-    case 1: return 2;
-    case 2: return 1;
-    default: return 0;
+    case 0:
+      return 3;
+    case 1:
+      return 2;
+    case 2:
+      return 1;
+    default:
+      return 0;
   }
 }
 
@@ -85,8 +92,7 @@ std::optional<uint32_t> scanHexInt(std::string_view text) {
   size_t i = 0;
   while (i < text.size() && skippable(text[i])) ++i;
   // "0x" counts as a prefix only when a digit follows; otherwise the "0" is the number.
-  if (i + 2 < text.size() && text[i] == '0' && (text[i + 1] == 'x' || text[i + 1] == 'X') &&
-      hexDigit(text[i + 2]) >= 0)
+  if (i + 2 < text.size() && text[i] == '0' && (text[i + 1] == 'x' || text[i + 1] == 'X') && hexDigit(text[i + 2]) >= 0)
     i += 2;
   if (i >= text.size() || hexDigit(text[i]) < 0) return std::nullopt;
   uint64_t value = 0;

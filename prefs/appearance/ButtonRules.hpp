@@ -117,8 +117,8 @@ bool reappliesPaletteBeforeLastStep(const SystemVersionFlags &flags);
 
 /// How one of the three sample glyphs (0 black, 1 blue, 2 red) is made and coloured.
 struct Look {
-  int style;          ///< initWithStyle:
-  int paletteStyle;   ///< 0: none; else the glyph's own palette of that style, mode 0
+  int style;                      ///< initWithStyle:
+  int paletteStyle;               ///< 0: none; else the glyph's own palette of that style, mode 0
   std::string_view primaryHex;    ///< empty: none
   std::string_view secondaryHex;  ///< empty: none
 };

@@ -7,22 +7,20 @@
 #include "appearance/BehaviourRules.hpp"
 #include "core/Names.hpp"
 
-namespace {
-
-}  // namespace
+namespace {}  // namespace
 
 @implementation TessarinAlertTitleController
 
 - (NSArray *)specifiers {
   if (_specifiers != nil) return _specifiers;
-  PSSpecifier *group = [PSSpecifier preferenceSpecifierNamed:localizedString(@"ALERT_TITLE_GROUP",
-                                                                             @"Enter a title for the alerts")
-                                                      target:nil
-                                                         set:NULL
-                                                         get:NULL
-                                                      detail:Nil
-                                                        cell:PSGroupCell
-                                                        edit:Nil];
+  PSSpecifier *group =
+      [PSSpecifier preferenceSpecifierNamed:localizedString(@"ALERT_TITLE_GROUP", @"Enter a title for the alerts")
+                                     target:nil
+                                        set:NULL
+                                        get:NULL
+                                     detail:Nil
+                                       cell:PSGroupCell
+                                       edit:Nil];
   PSSpecifier *title = [PSSpecifier preferenceSpecifierNamed:nil
                                                       target:self
                                                          set:@selector(setPreferenceValue:specifier:)

@@ -21,7 +21,8 @@ static NSString *const kGlyphIconSelected = @"TessarinGlyphIconSelected";
                     specifier:(PSSpecifier *)specifier {
   // Always the value style, whatever the row asks for.
   if ((self = [super initWithStyle:UITableViewCellStyleValue1 reuseIdentifier:reuseIdentifier specifier:specifier])) {
-    _container = [[UIView alloc] initWithFrame:cgRect(appearance::containerFrame([[self contentView] bounds].size.width))];
+    _container =
+        [[UIView alloc] initWithFrame:cgRect(appearance::containerFrame([[self contentView] bounds].size.width))];
     _tapRecognizer = [[UITapGestureRecognizer alloc] initWithTarget:self action:@selector(tappedView:)];
     [_container addGestureRecognizer:_tapRecognizer];
     [[self contentView] addSubview:_container];

@@ -36,7 +36,8 @@ CABasicAnimation *endlessAnimation(const button::Animation &spec) {
     [circle release];
     [self addSubview:_circle];
 
-    UIImageView *thumb = [[UIImageView alloc] initWithImage:buttonPageImage(nsString(button::thumbImage(isBlackButton)))];
+    UIImageView *thumb =
+        [[UIImageView alloc] initWithImage:buttonPageImage(nsString(button::thumbImage(isBlackButton)))];
     [thumb setFrame:cgRect(button::kThumb)];
     [thumb setClipsToBounds:YES];
     [self setThumb:thumb];

@@ -67,12 +67,9 @@ void runChain(PKGlyphView *view, int index, NSArray *states, NSUInteger step) {
   if (last && glyph::reappliesPaletteBeforeLastStep(systemVersion)) applyLook(view, index, YES);
   NSInteger state = [[states objectAtIndex:step] integerValue];
   if (last) {
-    [view setState:state animated:YES completionHandler:^{
-    }];
+    [view setState:state animated:YES completionHandler:^{}];
   } else {
-    [view setState:state animated:YES completionHandler:^{
-      runChain(view, index, states, step + 1);
-    }];
+    [view setState:state animated:YES completionHandler:^{ runChain(view, index, states, step + 1); }];
   }
 }
 
@@ -155,10 +152,14 @@ void runChain(PKGlyphView *view, int index, NSArray *states, NSUInteger step) {
 
 - (PKGlyphView *)glyphAt:(int)index {
   switch (index) {
-    case 0: return _blackView;
-    case 1: return _blueView;
-    case 2: return _redView;
-    default: return nil;
+    case 0:
+      return _blackView;
+    case 1:
+      return _blueView;
+    case 2:
+      return _redView;
+    default:
+      return nil;
   }
 }
 

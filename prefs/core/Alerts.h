@@ -8,9 +8,10 @@ extern "C" {
 
 // Returns at once; on the main queue builds the alert with the actions in order and
 // presents it, animated, from `presenter`. Callable from any thread.
-void showAlertWithTitleAndMessageAndAlertActionsFromViewControllerWithStyle(
-    NSString *title, NSString *message, NSArray *actions, UIViewController *presenter,
-    UIAlertControllerStyle style);
+void showAlertWithTitleAndMessageAndAlertActionsFromViewControllerWithStyle(NSString *title, NSString *message,
+                                                                            NSArray *actions,
+                                                                            UIViewController *presenter,
+                                                                            UIAlertControllerStyle style);
 
 #ifdef __cplusplus
 }

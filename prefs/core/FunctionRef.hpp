@@ -25,9 +25,8 @@ class FunctionRef<Result(Args...)> {
   FunctionRef() = default;
   FunctionRef(std::nullptr_t) {}
 
-  template <typename Callable,
-            typename = std::enable_if_t<!std::is_same_v<std::decay_t<Callable>, FunctionRef> &&
-                                        std::is_invocable_r_v<Result, Callable &, Args...>>>
+  template <typename Callable, typename = std::enable_if_t<!std::is_same_v<std::decay_t<Callable>, FunctionRef> &&
+                                                           std::is_invocable_r_v<Result, Callable &, Args...>>>
   FunctionRef(Callable &&callable) {
     using Target = std::remove_reference_t<Callable>;
     if constexpr (std::is_function_v<Target>) {

@@ -5,16 +5,16 @@ namespace tessarin {
 
 /// A frame in points, in the coordinates of the view it is set on.
 struct Rect {
-    double x, y, width, height;
+  double x, y, width, height;
 };
 
 constexpr bool operator==(const Rect &a, const Rect &b) {
-    return a.x == b.x && a.y == b.y && a.width == b.width && a.height == b.height;
+  return a.x == b.x && a.y == b.y && a.width == b.width && a.height == b.height;
 }
 
 /// A colour with 0-to-1 components.
 struct Rgba {
-    double red, green, blue, alpha;
+  double red, green, blue, alpha;
 };
 
 }  // namespace tessarin

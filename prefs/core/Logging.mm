@@ -15,7 +15,7 @@ bool lookedUpCopyAnswer = false;
 std::string userAssignedDeviceName() {
   std::string name;
   if (copyAnswer == NULL) return name;
-  CFPropertyListRef answer = copyAnswer((CFStringRef)@"UserAssignedDeviceName");
+  CFPropertyListRef answer = copyAnswer((CFStringRef) @"UserAssignedDeviceName");
   if (answer == NULL) return name;
   id object = (id)answer;
   if ([object isKindOfClass:[NSString class]]) {
@@ -32,7 +32,8 @@ id loggingExceptionInit(id self, SEL _cmd, NSString *name, NSString *reason, NSD
   NSLog(@"EXCEPTION WITH NAME %@ REASON %@ userinfo %@", name, reason, userInfo);
   FILE *file = fopen(devicePath("/tmp/TessarinCrashLog.txt").c_str(), "a");
   if (file != NULL) {
-    NSString *line = [NSString stringWithFormat:@"EXCEPTION WITH NAME %@ REASON %@ userinfo %@\n", name, reason, userInfo];
+    NSString *line =
+        [NSString stringWithFormat:@"EXCEPTION WITH NAME %@ REASON %@ userinfo %@\n", name, reason, userInfo];
     const char *bytes = [line UTF8String];
     if (bytes != NULL) fputs(bytes, file);
     fclose(file);
@@ -53,13 +54,13 @@ void mylog(const char *message) {
   }
   if (file == NULL) return;
   const char *program = [[[NSProcessInfo processInfo] processName] UTF8String];
-  std::string line = tessarin::logLine(userAssignedDeviceName(), local, program ? program : "", getpid(),
-                                       message ? message : "");
+  std::string line =
+      tessarin::logLine(userAssignedDeviceName(), local, program ? program : "", getpid(), message ? message : "");
   fputs(line.c_str(), file);
   fclose(file);
 }
 
 void installExceptionLogger(void) {
-  MSHookMessageEx([NSException class], @selector(initWithName:reason:userInfo:),
-                  (IMP)loggingExceptionInit, (IMP *)&originalExceptionInit);
+  MSHookMessageEx([NSException class], @selector(initWithName:reason:userInfo:), (IMP)loggingExceptionInit,
+                  (IMP *)&originalExceptionInit);
 }

@@ -25,20 +25,15 @@ std::string replyFilePath(std::string_view identifier);
 enum class MessageKind { OneWay, RequestReply };
 
 struct MessageInfo {
-    const char *identifier;
-    MessageKind kind;
+  const char *identifier;
+  MessageKind kind;
 };
 
 /// The eight messages, in table order.
 inline constexpr MessageInfo kMessages[] = {
-    {"dlbv", MessageKind::RequestReply},
-    {"idsn", MessageKind::RequestReply},
-    {"appL", MessageKind::RequestReply},
-    {"fldr", MessageKind::RequestReply},
-    {"wfls", MessageKind::RequestReply},
-    {"gpsi", MessageKind::RequestReply},
-    {"spsi", MessageKind::OneWay},
-    {"prrc", MessageKind::OneWay},
+    {"dlbv", MessageKind::RequestReply}, {"idsn", MessageKind::RequestReply}, {"appL", MessageKind::RequestReply},
+    {"fldr", MessageKind::RequestReply}, {"wfls", MessageKind::RequestReply}, {"gpsi", MessageKind::RequestReply},
+    {"spsi", MessageKind::OneWay},       {"prrc", MessageKind::OneWay},
 };
 
 /// The table entry of an identifier; nullptr when it is not one of the eight.

@@ -74,6 +74,4 @@ void installMessageTransport(void) {
                   (IMP *)&platformSendMessageAndReceiveReply);
 }
 
-void registerTransportSignal(void) {
-  notify_register_check(tessarin::kTransportSignal, &transportToken);
-}
+void registerTransportSignal(void) { notify_register_check(tessarin::kTransportSignal, &transportToken); }

@@ -33,6 +33,4 @@ NSString *jbroot(NSString *path) {
   return [NSString stringWithUTF8String:resolved];
 }
 
-BOOL deviceFileExists(NSString *path) {
-  return [[NSFileManager defaultManager] fileExistsAtPath:devicePath(path)];
-}
+BOOL deviceFileExists(NSString *path) { return [[NSFileManager defaultManager] fileExistsAtPath:devicePath(path)]; }

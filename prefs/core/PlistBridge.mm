@@ -101,6 +101,4 @@ id objectFromPlistValue(const Value &value) {
   return nil;
 }
 
-std::optional<Value> plistValueFromObject(id object) {
-  return valueFromObject(object, 0);
-}
+std::optional<Value> plistValueFromObject(id object) { return valueFromObject(object, 0); }

@@ -41,9 +41,7 @@ id getPrefsValueForKey(const char *key) {
   return (id)value;
 }
 
-id prefsValueForKey(const char *key) {
-  return [getPrefsValueForKey(key) autorelease];
-}
+id prefsValueForKey(const char *key) { return [getPrefsValueForKey(key) autorelease]; }
 
 void storePreference(id value, const tessarin::PreferenceKey *entry) {
   if (entry == NULL) return;
@@ -55,9 +53,7 @@ id storedPreference(const tessarin::PreferenceKey *entry) {
   return entry != NULL ? prefsValueForKey(entry->name()) : nil;
 }
 
-void postPrefsChanged(void) {
-  notify_post(tessarin::kPrefsChangedNotification);
-}
+void postPrefsChanged(void) { notify_post(tessarin::kPrefsChangedNotification); }
 
 BOOL gracePeriodIsActive(void) {
   if (gracePeriodToken == UINT32_MAX) {

@@ -22,8 +22,8 @@ namespace tessarin {
 /// switches nothing, yet the rule runs as for an item that is never there: the list is
 /// stored unchanged and the change announced.
 struct ProtectedListEdit {
-    bool store;         ///< write `list` back under the list's key
-    plist::Value list;  ///< the array to write (the current list when not storing)
+  bool store;         ///< write `list` back under the list's key
+  plist::Value list;  ///< the array to write (the current list when not storing)
 };
 ProtectedListEdit protectedListEdit(const plist::Value *stored, std::optional<std::string_view> item, bool on);
 

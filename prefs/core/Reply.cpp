@@ -5,8 +5,8 @@
 namespace tessarin {
 
 std::optional<plist::Value> decodeReply(const std::vector<std::uint8_t> &bytes) {
-    if (bytes.empty()) return std::nullopt;
-    return plist::decodeKeyedArchive(bytes.data(), bytes.size());
+  if (bytes.empty()) return std::nullopt;
+  return plist::decodeKeyedArchive(bytes.data(), bytes.size());
 }
 
 }  // namespace tessarin

@@ -2,6 +2,4 @@
 // Objective-C itself: it only calls into code whose classes are registered by then.
 #import "core/Startup.h"
 
-__attribute__((constructor)) static void startUpAtLoad(void) {
-  tessarinStartUp();
-}
+__attribute__((constructor)) static void startUpAtLoad(void) { tessarinStartUp(); }

@@ -7,15 +7,15 @@
 namespace tessarin {
 
 struct SystemVersionFlags {
-    bool iOS8 = false;
-    bool iOS10 = false;
-    bool iOS10_2 = false;
-    bool iOS11 = false;
-    bool iOS13 = false;
-    bool iOS14 = false;
-    bool iOS15 = false;
-    bool iOS16 = false;
-    bool iOS17 = false;
+  bool iOS8 = false;
+  bool iOS10 = false;
+  bool iOS10_2 = false;
+  bool iOS11 = false;
+  bool iOS13 = false;
+  bool iOS14 = false;
+  bool iOS15 = false;
+  bool iOS16 = false;
+  bool iOS17 = false;
 };
 
 /// All flags for a version string. iOS11 is always set (the Settings

@@ -2,9 +2,7 @@
 
 tessarin::SystemVersionFlags systemVersion = {};
 
-NSString *systemVersionString(void) {
-  return [[NSProcessInfo processInfo] operatingSystemVersionString];
-}
+NSString *systemVersionString(void) { return [[NSProcessInfo processInfo] operatingSystemVersionString]; }
 
 static tessarin::SystemVersionFlags currentFlags(void) {
   const char *version = [systemVersionString() UTF8String];

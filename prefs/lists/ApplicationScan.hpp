@@ -15,10 +15,10 @@ namespace tessarin::lists {
 
 /// The scanned directories, in scan order.
 enum class AppSource {
-    Applications,      // "/Applications": every entry is a bundle
-    LegacyContainers,  // "/private/var/mobile/Applications/": containers of bundles
-    Binpack,           // "/private/var/binpack/Applications/": every entry is a bundle
-    ContainerRoot,     // the bundle container root: containers of bundles, own name rules
+  Applications,      // "/Applications": every entry is a bundle
+  LegacyContainers,  // "/private/var/mobile/Applications/": containers of bundles
+  Binpack,           // "/private/var/binpack/Applications/": every entry is a bundle
+  ContainerRoot,     // the bundle container root: containers of bundles, own name rules
 };
 inline constexpr AppSource kAppSources[] = {AppSource::Applications, AppSource::LegacyContainers, AppSource::Binpack,
                                             AppSource::ContainerRoot};
@@ -51,42 +51,43 @@ std::string withoutIphoneSuffix(std::string_view name);
 /// any name that is present, so a name of the wrong type still takes the table's
 /// string when the bundle has one.
 inline bool localisesName(AppSource source, const InfoValue &name) {
-    if (source == AppSource::ContainerRoot) return name.isString();
-    return name.kind != InfoValue::Kind::Absent;
+  if (source == AppSource::ContainerRoot) return name.isString();
+  return name.kind != InfoValue::Kind::Absent;
 }
 
 /// The identifiers SpringBoard offers for protection ("apps" of the "appL"
 /// reply): none when it gave no usable answer, in which case every application
 /// is allowed.
 class AllowedApplications {
-public:
-    AllowedApplications() = default;  ///< no answer: everything allowed
-    explicit AllowedApplications(std::vector<std::string> identifiers);
-    bool allows(const std::optional<std::string> &bundleIdentifier) const;
+ public:
+  AllowedApplications() = default;  ///< no answer: everything allowed
+  explicit AllowedApplications(std::vector<std::string> identifiers);
+  bool allows(const std::optional<std::string> &bundleIdentifier) const;
 
-private:
-    bool answered_ = false;
-    std::unordered_set<std::string> identifiers_;
+ private:
+  bool answered_ = false;
+  std::unordered_set<std::string> identifiers_;
 };
 
 /// Builds the list as the sources are scanned: each call decides one candidate
 /// and, when it is listed, remembers its name.
 class ApplicationListing {
-public:
-    explicit ApplicationListing(AllowedApplications allowed) : allowed_(std::move(allowed)) {}
+ public:
+  explicit ApplicationListing(AllowedApplications allowed) : allowed_(std::move(allowed)) {}
 
-    /// The row name of a candidate, or nothing when it is not listed. `localised`
-    /// is the name after localisation (infoName, then the bundle's table for a
-    /// string). In the first three sources a candidate needs a string name; in the
-    /// container root a candidate without one is named by its bundle identifier
-    /// and one whose name was already listed is skipped. Then the identifier must
-    /// be allowed.
-    std::optional<std::string> consider(AppSource source, const InfoValue &localised,
-                                        const std::optional<std::string> &bundleIdentifier);
+  /// The row name of a candidate, or nothing when it is not listed. `localised`
+  /// is the name after localisation (infoName, then the bundle's table for a
+  /// string). In the first three sources a candidate needs a string name; in the
+  /// container root a candidate without one is named by its bundle identifier
+  /// and one whose name was already listed is skipped. Then the identifier must
+  /// be allowed. A name that shows nothing (empty, or only spaces and invisible
+  /// marks: isBlankName) counts as none, so no row stands there without a title.
+  std::optional<std::string> consider(AppSource source, const InfoValue &localised,
+                                      const std::optional<std::string> &bundleIdentifier);
 
-private:
-    AllowedApplications allowed_;
-    std::unordered_set<std::string> names_;
+ private:
+  AllowedApplications allowed_;
+  std::unordered_set<std::string> names_;
 };
 
 }  // namespace tessarin::lists

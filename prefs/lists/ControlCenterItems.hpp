@@ -34,10 +34,10 @@ inline constexpr const char *kCCSettingsOrderFile = "/var/mobile/Library/Prefere
 /// A row of a fixed table: its title, stored identifier, image name and the
 /// bundle the image is taken from ("" for the one the layout names).
 struct CCTableRow {
-    LocalText title;
-    std::string_view identifier;
-    std::string_view image;
-    std::string_view bundle;
+  LocalText title;
+  std::string_view identifier;
+  std::string_view image;
+  std::string_view bundle;
 };
 
 /// Modular layout, connectivity rows from the settings icons (when the
@@ -56,11 +56,11 @@ inline constexpr int kWhiteTintBlendMode = 18;
 
 enum class CCLayout { Modular, Classic };
 inline CCLayout controlCenterLayout(bool systemModulesDirectoryExists) {
-    return systemModulesDirectoryExists ? CCLayout::Modular : CCLayout::Classic;
+  return systemModulesDirectoryExists ? CCLayout::Modular : CCLayout::Classic;
 }
 /// Add-on modules are listed only with both their directory and CCSupport.
 inline bool listsAddOnModules(bool addOnDirectoryExists, bool ccSupportExists) {
-    return addOnDirectoryExists && ccSupportExists;
+  return addOnDirectoryExists && ccSupportExists;
 }
 
 /// The module bundles that get no row of their own.
@@ -87,8 +87,8 @@ std::string withoutWord(std::string_view text, std::string_view word);
 /// without one); any other toggle keeps the English title made from its name.
 std::string ccSettingsTitle(std::string_view identifier, TextLookup lookup = englishText);
 struct CCSettingsTitle {
-    std::string_view identifier;
-    LocalText title;  ///< its English text is the title made from the identifier
+  std::string_view identifier;
+  LocalText title;  ///< its English text is the title made from the identifier
 };
 extern const CCSettingsTitle kCCSettingsTitles[21];
 /// The English title made from the identifier alone.

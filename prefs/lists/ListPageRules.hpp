@@ -13,9 +13,9 @@ namespace tessarin::lists {
 
 /// The Settings app's own list, as the settings-pane page mirrors it.
 enum class PaneRow {
-    Skip,    // this product's own pane
-    Group,   // a section of the Settings list: an empty group
-    Switch,  // a pane: a switch row
+  Skip,    // this product's own pane
+  Group,   // a section of the Settings list: an empty group
+  Switch,  // a pane: a switch row
 };
 inline constexpr std::string_view kOwnPaneName = "Tessarin";
 inline constexpr int kGroupCellType = 0;
@@ -43,7 +43,6 @@ inline constexpr LocalText kTouchIDName{"TOUCH_ID", "Touch ID"};
 inline constexpr LocalText kFaceIDName{"FACE_ID", "Face ID"};
 enum class RowText { Footer, Label, Name };
 /// `text` is in the language `lookup` gives (English without one).
-std::string faceIDText(std::string_view row, RowText property, std::string_view text,
-                       TextLookup lookup = englishText);
+std::string faceIDText(std::string_view row, RowText property, std::string_view text, TextLookup lookup = englishText);
 
 }  // namespace tessarin::lists

@@ -23,4 +23,3 @@ UIImage *resizedImage(UIImage *image, CGSize size) {
   UIGraphicsEndImageContext();
   return resized;
 }
-

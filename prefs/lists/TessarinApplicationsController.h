@@ -1,9 +1,9 @@
 // The applications page: one switch per installed application SpringBoard offers,
-// storing the protected applications' bundle identifiers.
+// storing the protected applications' bundle identifiers; searchable, with an index.
 #pragma once
-#import "lists/TessarinProtectedListController.h"
+#import "lists/TessarinSearchableListController.h"
 
-@interface TessarinApplicationsController : TessarinProtectedListController
+@interface TessarinApplicationsController : TessarinSearchableListController
 - (NSNumber *)getProtectEnabledForSpecifier:(PSSpecifier *)specifier;
 - (void)setProtectEnabled:(NSNumber *)value specifier:(PSSpecifier *)specifier;
 @end

@@ -11,14 +11,16 @@ namespace {
 
 namespace lists = tessarin::lists;
 
-// The name through the bundle's "InfoPlist" table. A name of the wrong type is not
-// handed to the lookup as its default: it stays what it was unless the table names
-// the application.
+// The name through the bundle's "InfoPlist" table. A name of the wrong type, or an empty
+// one, is not handed to the lookup as its default (for an empty default NSBundle answers
+// the key itself, "CFBundleDisplayName"): it stays what it was unless the table names the
+// application.
 lists::InfoValue localisedName(NSBundle *bundle, const lists::InfoValue &name) {
   static NSString *const notInTable = @"\x01not in the table";
-  NSString *fallback = name.isString() ? nsString(name.text) : notInTable;
+  NSString *given = name.isString() ? nsString(name.text) : nil;
+  NSString *fallback = [given length] > 0 ? given : notInTable;
   NSString *localised = [bundle localizedStringForKey:@"CFBundleDisplayName" value:fallback table:@"InfoPlist"];
-  if (!name.isString() && [localised isEqual:notInTable]) return name;
+  if (fallback == notInTable && [localised isEqual:notInTable]) return name;
   return nameValue(localised);
 }
 
@@ -59,13 +61,14 @@ lists::AllowedApplications allowedApplications() {
 
 #pragma mark - Rows
 
-- (NSMutableArray *)specifiers {
-  if (_specifiers != nil) return (NSMutableArray *)_specifiers;
-
+// Built once, when the page first needs its rows (the list is not scanned again while the
+// page lives; the base class keeps it).
+- (NSMutableArray *)listRows {
   lists::ApplicationListing listing(allowedApplications());
   NSMutableArray *rows = [NSMutableArray array];
-  [rows addObject:footerGroup(localizedString(
-                      @"APPLICATIONS_FOOTER", @"Choose the applications that you want to protect from the list below"))];
+  [rows
+      addObject:footerGroup(localizedString(@"APPLICATIONS_FOOTER",
+                                            @"Choose the applications that you want to protect from the list below"))];
   [rows addObject:[PSSpecifier emptyGroupSpecifier]];
 
   const bool containerRootExists = deviceFileExists(@(lists::kContainerRoot));
@@ -83,7 +86,7 @@ lists::AllowedApplications allowedApplications() {
       std::optional<std::string> listed = listing.consider(source, name, utf8String(identifier));
       if (!listed) continue;
       PSSpecifier *row = switchRow(nsString(*listed), self, @selector(setProtectEnabled:specifier:),
-                                       @selector(getProtectEnabledForSpecifier:));
+                                   @selector(getProtectEnabledForSpecifier:));
       if (identifier != nil) {
         [row setProperty:identifier forKey:@"id"];
         [row setProperty:identifier forKey:@"appIDForLazyIcon"];
@@ -96,9 +99,7 @@ lists::AllowedApplications allowedApplications() {
   NSSortDescriptor *byName = [NSSortDescriptor sortDescriptorWithKey:@"name"
                                                            ascending:YES
                                                             selector:@selector(localizedCaseInsensitiveCompare:)];
-  NSArray *sorted = [rows sortedArrayUsingDescriptors:@[ byName ]];
-  _specifiers = [sorted mutableCopy];
-  return (NSMutableArray *)_specifiers;
+  return [[[rows sortedArrayUsingDescriptors:@[ byName ]] mutableCopy] autorelease];
 }
 
 #pragma mark - Switches

@@ -30,7 +30,8 @@ UIImage *imageIn(std::string_view name, NSBundle *bundle) {
 
   NSMutableArray *rows = [NSMutableArray array];
   [rows addObject:footerGroup(localizedString(
-                      @"CONTROLCENTER_FOOTER", @"Choose the Control Center items that you want to protect from the list below"))];
+                      @"CONTROLCENTER_FOOTER",
+                      @"Choose the Control Center items that you want to protect from the list below"))];
   [rows addObject:[PSSpecifier emptyGroupSpecifier]];
 
   if (lists::controlCenterLayout(deviceFileExists(@(lists::kSystemModulesDirectory))) == lists::CCLayout::Modular) {
@@ -49,7 +50,7 @@ UIImage *imageIn(std::string_view name, NSBundle *bundle) {
       UIImage *glyph = imageIn(item.image, springBoard);
       if (glyph == nil) glyph = imageIn(item.image, controlCenterUI);
       PSSpecifier *row = switchRow(localizedText(item.title), self, @selector(setCCItemProtectEnabled:specifier:),
-                                       @selector(getCCItemProtectEnabledForSpecifier:));
+                                   @selector(getCCItemProtectEnabledForSpecifier:));
       [row setProperty:nsString(item.identifier) forKey:@"id"];
       if (glyph != nil) {
         UIImage *icon = resizedImage(glyph, CGSizeMake(lists::kClassicGlyphWidth, lists::kClassicGlyphHeight));
@@ -63,8 +64,7 @@ UIImage *imageIn(std::string_view name, NSBundle *bundle) {
 }
 
 - (void)addConnectivityRowsTo:(NSMutableArray *)rows {
-  const bool settingsIcons =
-      imageIn(lists::kConnectivityProbeImage, deviceBundle(lists::kPreferencesFramework)) != nil;
+  const bool settingsIcons = imageIn(lists::kConnectivityProbeImage, deviceBundle(lists::kPreferencesFramework)) != nil;
   whiteTint = settingsIcons ? NO : YES;
   for (const lists::CCTableRow &item :
        settingsIcons ? lists::kConnectivitySettingsIconRows : lists::kConnectivityGlyphRows) {
@@ -85,8 +85,9 @@ UIImage *imageIn(std::string_view name, NSBundle *bundle) {
     if (name == NULL || lists::isSkippedModule(name)) continue;
     NSBundle *module = [NSBundle bundleWithPath:devicePath([NSString stringWithFormat:@"%@/%@", directory, entry])];
     NSDictionary *info = [module infoDictionary];
-    std::optional<std::string> title = lists::moduleTitle(name, utf8String([info objectForKey:@"CFBundleDisplayName"]),
-                                                          utf8String([info objectForKey:@"CFBundleName"]), localizedCoreText);
+    std::optional<std::string> title =
+        lists::moduleTitle(name, utf8String([info objectForKey:@"CFBundleDisplayName"]),
+                           utf8String([info objectForKey:@"CFBundleName"]), localizedCoreText);
     PSSpecifier *row = [self newSpecifierWithName:title ? nsString(*title) : nil
                                             andID:[module bundleIdentifier]
                                          andImage:imageIn(lists::moduleImageName(name), module)];
@@ -97,7 +98,7 @@ UIImage *imageIn(std::string_view name, NSBundle *bundle) {
 
 - (PSSpecifier *)newSpecifierWithName:(NSString *)name andID:(NSString *)identifier andImage:(UIImage *)image {
   PSSpecifier *row = switchRow(name, self, @selector(setCCItemProtectEnabled:specifier:),
-                                   @selector(getCCItemProtectEnabledForSpecifier:));
+                               @selector(getCCItemProtectEnabledForSpecifier:));
   if (identifier != nil) [row setProperty:identifier forKey:@"id"];
   UIImage *icon = [self roundedImage:image];
   if (icon != nil) [row setProperty:icon forKey:@"iconImage"];

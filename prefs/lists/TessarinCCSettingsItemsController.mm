@@ -33,8 +33,9 @@ NSArray *CCSettingsArray() {
   if (_specifiers != nil) return _specifiers;
 
   NSMutableArray *rows = [NSMutableArray array];
-  [rows addObject:footerGroup(localizedString(
-                      @"CCSETTINGS_FOOTER", @"Choose the CCSettings items that you want to protect from the list below"))];
+  [rows addObject:footerGroup(
+                      localizedString(@"CCSETTINGS_FOOTER",
+                                      @"Choose the CCSettings items that you want to protect from the list below"))];
   [rows addObject:[PSSpecifier emptyGroupSpecifier]];
 
   NSBundle *settings = deviceBundle(lists::kCCSettingsBundle);
@@ -42,8 +43,8 @@ NSArray *CCSettingsArray() {
     const char *utf8 = [identifier UTF8String];
     if (utf8 == NULL) continue;
     PSSpecifier *row = switchRow(nsString(lists::ccSettingsTitle(utf8, localizedCoreText)), self,
-                                     @selector(setCCSettingsItemProtectEnabled:specifier:),
-                                     @selector(getCCSettingsItemProtectEnabledForSpecifier:));
+                                 @selector(setCCSettingsItemProtectEnabled:specifier:),
+                                 @selector(getCCSettingsItemProtectEnabledForSpecifier:));
     [row setProperty:identifier forKey:@"id"];
     NSString *icon = nsString(lists::ccSettingsIconName(utf8));
     if (icon != nil && [settings pathForResource:[NSString stringWithFormat:@"%@@2x", icon] ofType:@"png"] != nil) {

@@ -55,9 +55,8 @@ Class switchPanelClass(void) {
     if (icon != nil) [row setProperty:icon forKey:@"iconImage"];
     [rows addObject:row];
   }
-  [rows sortUsingComparator:^NSComparisonResult(PSSpecifier *a, PSSpecifier *b) {
-    return [[a name] compare:[b name]];
-  }];
+  [rows
+      sortUsingComparator:^NSComparisonResult(PSSpecifier *a, PSSpecifier *b) { return [[a name] compare:[b name]]; }];
   _specifiers = [rows copy];
   return _specifiers;
 }

@@ -38,9 +38,9 @@ UIImage *newsstandImage() {
     for (NSDictionary *folder in (NSArray *)folders) {
       if (![folder isKindOfClass:[NSDictionary class]]) continue;
       id displayName = [folder objectForKey:@"displayName"];
-      PSSpecifier *row = switchRow([displayName isKindOfClass:[NSString class]] ? displayName : nil, self,
-                                       @selector(setFolderProtectEnabled:specifier:),
-                                       @selector(getFolderProtectEnabledForSpecifier:));
+      PSSpecifier *row =
+          switchRow([displayName isKindOfClass:[NSString class]] ? displayName : nil, self,
+                    @selector(setFolderProtectEnabled:specifier:), @selector(getFolderProtectEnabledForSpecifier:));
       for (NSString *key in @[ @"defaultDisplayName", @"folderType", @"bundleIdentifiers" ]) {
         id value = [folder objectForKey:key];
         if (value != nil) [row setProperty:value forKey:key];
@@ -90,23 +90,23 @@ UIImage *newsstandImage() {
     id listType = isString || ![element isKindOfClass:[NSDictionary class]] ? nil : [element objectForKey:@"listType"];
     UIImage *icon = nil;
     switch (lists::folderElementKind(isString, utf8String(listType))) {
-    case lists::FolderElement::Application:
-      icon = [UIImage _applicationIconImageForBundleIdentifier:element
-                                                        format:lists::kFolderIconFormat
-                                                         scale:lists::kFolderIconScale];
-      break;
-    case lists::FolderElement::NewsstandList: {
-      UIImage *newsstand = newsstandImage();
-      const CGFloat side = lists::kNestedNewsstandIconSize;
-      if (newsstand != nil) icon = resizedImage(newsstand, CGSizeMake(side, side));
-      break;
-    }
-    case lists::FolderElement::OtherList:
-      // Asked without an identifier, the platform gives no icon: the cell stays empty.
-      icon = [UIImage _applicationIconImageForBundleIdentifier:nil
-                                                        format:lists::kFolderIconFormat
-                                                         scale:lists::kFolderIconScale];
-      break;
+      case lists::FolderElement::Application:
+        icon = [UIImage _applicationIconImageForBundleIdentifier:element
+                                                          format:lists::kFolderIconFormat
+                                                           scale:lists::kFolderIconScale];
+        break;
+      case lists::FolderElement::NewsstandList: {
+        UIImage *newsstand = newsstandImage();
+        const CGFloat side = lists::kNestedNewsstandIconSize;
+        if (newsstand != nil) icon = resizedImage(newsstand, CGSizeMake(side, side));
+        break;
+      }
+      case lists::FolderElement::OtherList:
+        // Asked without an identifier, the platform gives no icon: the cell stays empty.
+        icon = [UIImage _applicationIconImageForBundleIdentifier:nil
+                                                          format:lists::kFolderIconFormat
+                                                           scale:lists::kFolderIconScale];
+        break;
     }
     const lists::PictureRect cell = lists::folderIconFrame(index++);
     UIImageView *iconView = [[UIImageView alloc] initWithFrame:cgRect(cell)];

@@ -10,8 +10,7 @@ namespace tessarin::logs {
 
 namespace {
 
-constexpr const char *kMonths[] = {"jan", "feb", "mar", "apr", "may", "jun",
-                                   "jul", "aug", "sep", "oct", "nov", "dec"};
+constexpr const char *kMonths[] = {"jan", "feb", "mar", "apr", "may", "jun", "jul", "aug", "sep", "oct", "nov", "dec"};
 
 // Reads 1 to `maxDigits` digits at `pos`.
 std::optional<int> number(std::string_view text, std::size_t &pos, std::size_t maxDigits) {
@@ -35,8 +34,7 @@ std::optional<int> month(std::string_view text, std::size_t &pos) {
   if (text.size() - pos < 3) return std::nullopt;
   for (int m = 0; m < 12; ++m) {
     bool same = true;
-    for (int k = 0; k < 3 && same; ++k)
-      same = std::tolower(static_cast<unsigned char>(text[pos + k])) == kMonths[m][k];
+    for (int k = 0; k < 3 && same; ++k) same = std::tolower(static_cast<unsigned char>(text[pos + k])) == kMonths[m][k];
     if (same) {
       pos += 3;
       return m + 1;
@@ -106,8 +104,7 @@ std::optional<CrashTime> crashTime(std::string_view fileName) {
   t.hour = *hour;
   t.minute = *minute;
   t.second = *second;
-  if (t.year < 1 || t.day < 1 || t.day > daysInMonth(t.year, t.month) || t.hour > 23 || t.minute > 59 ||
-      t.second > 59)
+  if (t.year < 1 || t.day < 1 || t.day > daysInMonth(t.year, t.month) || t.hour > 23 || t.minute > 59 || t.second > 59)
     return std::nullopt;
   return t;
 }
@@ -117,8 +114,8 @@ uint64_t secondsSince1970(const CrashTime &time) {
   // The moment as if it were UTC, then moved by the zone's offset at that moment. (mktime
   // would do the same but re-reads the zone on every call, which a list of a thousand
   // logs notices.)
-  const int64_t asUTC = daysSince1970(time.year, time.month, time.day) * 86400 + time.hour * 3600 +
-                        time.minute * 60 + time.second;
+  const int64_t asUTC =
+      daysSince1970(time.year, time.month, time.day) * 86400 + time.hour * 3600 + time.minute * 60 + time.second;
   int64_t seconds = asUTC - utcOffsetAt(asUTC);
   seconds = asUTC - utcOffsetAt(seconds);  // the offset in force at the local moment itself
   return seconds > 0 ? static_cast<uint64_t>(seconds) : 0;
@@ -218,8 +215,11 @@ std::size_t shownLength(std::string_view head, uint64_t fileSize) {
   }
   if (start == 0) return head.size();
   const unsigned char lead = static_cast<unsigned char>(head[start - 1]);
-  const std::size_t length = lead < 0x80 ? 1 : (lead & 0xE0) == 0xC0 ? 2 : (lead & 0xF0) == 0xE0 ? 3
-                             : (lead & 0xF8) == 0xF0 ? 4 : 0;
+  const std::size_t length = lead < 0x80             ? 1
+                             : (lead & 0xE0) == 0xC0 ? 2
+                             : (lead & 0xF0) == 0xE0 ? 3
+                             : (lead & 0xF8) == 0xF0 ? 4
+                                                     : 0;
   if (length == 0) return head.size();  // not a character's start: bad bytes, left as they are
   return continuations + 1 < length ? start - 1 : head.size();
 }

@@ -36,7 +36,8 @@ std::string readHead(int file, std::size_t limit) {
 }  // namespace
 
 LogDirectory::LogDirectory(const std::string &path, std::string (*fileSystemPath)(const char *))
-    : path_(path), fileSystemPath_(fileSystemPath),
+    : path_(path),
+      fileSystemPath_(fileSystemPath),
       fd_(open(path.c_str(), O_RDONLY | O_DIRECTORY | O_NOFOLLOW | O_CLOEXEC)) {}
 
 LogDirectory::~LogDirectory() {
@@ -93,8 +94,7 @@ std::optional<std::string> LogDirectory::latestLinkFile() const {
   // target may climb out of the directory and back in through "..".
   char realDirectory[PATH_MAX];
   if (realpath(path_.c_str(), realDirectory) == nullptr || !holds(realDirectory)) return std::nullopt;
-  const std::string targetPath =
-      target[0] == '/' ? fileSystemPath_(target) : std::string(realDirectory) + "/" + target;
+  const std::string targetPath = target[0] == '/' ? fileSystemPath_(target) : std::string(realDirectory) + "/" + target;
   char resolved[PATH_MAX];
   if (realpath(targetPath.c_str(), resolved) == nullptr) return std::nullopt;  // gone, or a loop
   return fileInDirectory(resolved, realDirectory);

@@ -18,7 +18,7 @@ namespace tessarin::logs {
 /// nothing. A directory that is itself a link is not opened (it would lead the pages to
 /// list and delete wherever it points), nor a missing one: then it holds nothing.
 class LogDirectory {
-public:
+ public:
   /// `path`: the directory's file-system path. `fileSystemPath` gives the file-system
   /// path of a device path, for absolute link targets (the identity on the device).
   LogDirectory(const std::string &path, std::string (*fileSystemPath)(const char *devicePath));
@@ -47,7 +47,7 @@ public:
   /// link points at. Failures are ignored.
   void remove(const std::string &file) const;
 
-private:
+ private:
   bool holds(const char *path) const;
 
   const std::string path_;

@@ -67,11 +67,11 @@ NSString *viewerText(NSString *rowFile) {
   if (composer == nil) {
     UIAlertAction *okay = [UIAlertAction actionWithTitle:localizedString(@"OKAY", @"Okay")
                                                    style:UIAlertActionStyleCancel
-                                                 handler:^(UIAlertAction *action) {
-                                                 }];
+                                                 handler:^(UIAlertAction *action){}];
     showAlertWithTitleAndMessageAndAlertActionsFromViewControllerWithStyle(
         localizedString(@"NO_MAIL_ACCOUNT_TITLE", @"No mail account"),
-        localizedString(@"NO_MAIL_ACCOUNT", @"This device cannot send mail. Add a mail account in Settings to send this crash log."),
+        localizedString(@"NO_MAIL_ACCOUNT",
+                        @"This device cannot send mail. Add a mail account in Settings to send this crash log."),
         [NSArray arrayWithObject:okay], self, UIAlertControllerStyleAlert);
     return;
   }

@@ -4,9 +4,7 @@ namespace tessarin::passcode {
 
 namespace {
 
-bool equals(const std::optional<std::string> &held, std::string_view entry) {
-  return held && *held == entry;
-}
+bool equals(const std::optional<std::string> &held, std::string_view entry) { return held && *held == entry; }
 
 }  // namespace
 

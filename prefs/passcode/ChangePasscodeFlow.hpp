@@ -18,8 +18,7 @@ class RemovePasscodeFlow {
  public:
   enum class State { Old, Closed };
 
-  explicit RemovePasscodeFlow(std::optional<std::string> stored)
-      : stored_(std::move(stored)) {}
+  explicit RemovePasscodeFlow(std::optional<std::string> stored) : stored_(std::move(stored)) {}
 
   Step enter(std::string_view entry);
   Step cancel();
@@ -38,8 +37,7 @@ class ChangePasscodeFlow {
  public:
   enum class State { Old, New, Confirm, Closed };
 
-  explicit ChangePasscodeFlow(std::optional<std::string> stored)
-      : stored_(std::move(stored)) {}
+  explicit ChangePasscodeFlow(std::optional<std::string> stored) : stored_(std::move(stored)) {}
 
   Step enter(std::string_view entry);
   Step cancel();

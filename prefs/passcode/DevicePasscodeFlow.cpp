@@ -2,16 +2,12 @@
 
 namespace tessarin::passcode {
 
-int entryFieldCount(long long length) {
-  return length == 6 ? kSixDigitEntryFields : kDigitEntryFields;
-}
+int entryFieldCount(long long length) { return length == 6 ? kSixDigitEntryFields : kDigitEntryFields; }
 
-std::string_view systemControllerClass(bool faceID,
-                                       FunctionRef<bool(std::string_view)> yieldsController) {
+std::string_view systemControllerClass(bool faceID, FunctionRef<bool(std::string_view)> yieldsController) {
   if (!yieldsController) return {};
   if (faceID) {
-    return yieldsController(kFaceIDControllerClass) ? std::string_view(kFaceIDControllerClass)
-                                                    : std::string_view();
+    return yieldsController(kFaceIDControllerClass) ? std::string_view(kFaceIDControllerClass) : std::string_view();
   }
   for (const char *name : kFingerprintControllerClasses) {
     if (yieldsController(name)) return name;

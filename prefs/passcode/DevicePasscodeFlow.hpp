@@ -35,8 +35,7 @@ inline constexpr const char *kSystemSpecifierPasscodeProperty = "passcode";
 /// page is tried; otherwise the first fingerprint class for which
 /// `yieldsController` (the class exists and gives an object) holds. Empty when
 /// none does.
-std::string_view systemControllerClass(bool faceID,
-                                       FunctionRef<bool(std::string_view)> yieldsController);
+std::string_view systemControllerClass(bool faceID, FunctionRef<bool(std::string_view)> yieldsController);
 
 /// How the system page answered one of its token methods.
 enum class TokenAnswer {
@@ -73,9 +72,7 @@ class DevicePasscodeFlow {
   bool closed() const { return closed_; }
   DevicePage page() const { return page_; }
 
-  Text title() const {
-    return page_ == DevicePage::Complex ? text::kComplexDeviceTitle : text::kDeviceTitle;
-  }
+  Text title() const { return page_ == DevicePage::Complex ? text::kComplexDeviceTitle : text::kDeviceTitle; }
   static constexpr Text initialPrompt() { return text::kDevicePrompt; }
 
  private:

@@ -45,8 +45,7 @@ inline constexpr Text kAddTitle{"ADD_TESSARIN_PASSCODE", "Add a Tessarin passcod
 inline constexpr Text kCancel{"CANCEL", "Cancel"};
 inline constexpr Text kEnter{"ENTER_TESSARIN_PASSCODE", "Enter a Tessarin passcode"};
 inline constexpr Text kReenter{"REENTER_TESSARIN_PASSCODE", "Re-enter Tessarin passcode"};
-inline constexpr Text kMismatch{"PASSCODES_DID_NOT_MATCH_TRY_AGAIN",
-                                "Passcodes didn't match. Try again."};
+inline constexpr Text kMismatch{"PASSCODES_DID_NOT_MATCH_TRY_AGAIN", "Passcodes didn't match. Try again."};
 inline constexpr Text kEnterOld{"ENTER_OLD_TESSARIN_PASSCODE", "Enter old Tessarin passcode"};
 inline constexpr Text kRemoveTitle{"REMOVE_TESSARIN_PASSCODE", "Remove Tessarin passcode"};
 inline constexpr Text kChangeTitle{"CHANGE_TESSARIN_PASSCODE", "Change Tessarin passcode"};
@@ -54,8 +53,7 @@ inline constexpr Text kWrong{"WRONG_PASSCODE_TRY_AGAIN", "Wrong passcode. Try ag
 inline constexpr Text kTooMany{"TOO_MANY_ATTEMPTS_SORRY", "Too many attempts. Sorry."};
 inline constexpr Text kOptionsTitle{"PASSCODE_OPTIONS", "Passcode options"};
 /// The device-passcode pages borrow the system's own passcode prompts.
-inline constexpr Text kDevicePrompt{"PMENTER_1_PROMPT", "Enter your passcode",
-                                    TextTable::GuidedAccess};
+inline constexpr Text kDevicePrompt{"PMENTER_1_PROMPT", "Enter your passcode", TextTable::GuidedAccess};
 inline constexpr Text kDeviceTitle{"PMENTER", "Enter passcode", TextTable::GuidedAccess};
 /// Same key as kDeviceTitle; the complex page's default is capitalised differently.
 inline constexpr Text kComplexDeviceTitle{"PMENTER", "Enter Passcode", TextTable::GuidedAccess};
@@ -89,7 +87,7 @@ struct Step {
   Text warning;
   bool playErrorSound = false;  ///< system sound kErrorSound, at once
   Commit commit = Commit::None;
-  std::string value;            ///< the value to store with Commit::Store
+  std::string value;  ///< the value to store with Commit::Store
   /// Too many attempts: prompt empty, warning shown, field hidden, touches
   /// suspended, close after kRefuseDismissDelay.
   bool refuse = false;
@@ -128,8 +126,8 @@ inline constexpr double kShakeMoveDuration = 0.1;  ///< default options, chained
 /// Centre x of prompt and field for each move, relative to the root view's centre x.
 inline constexpr double kShakeOffsets[kShakeMoves] = {-20.0, 20.0, -20.0, 20.0, 0.0};
 
-inline constexpr double kChildRefreshDelay = 0.5;    ///< other pages of the navigation, iOS 8 and later
-inline constexpr double kTopRefreshDelay = 1.0;      ///< the top page again, after its immediate refresh
+inline constexpr double kChildRefreshDelay = 0.5;  ///< other pages of the navigation, iOS 8 and later
+inline constexpr double kTopRefreshDelay = 1.0;    ///< the top page again, after its immediate refresh
 inline constexpr double kCommitDismissDelay = 1.0;
 inline constexpr double kSuccessDismissDelay = 0.8;
 inline constexpr double kSuccessPushDelay = 1.7;
@@ -159,8 +157,8 @@ struct Rgb {
 };
 
 inline constexpr Rgb kLightBackground{239, 239, 244};
-inline constexpr Rgb kDarkBackground{137, 137, 142};     ///< a mid grey, not black
-inline constexpr Rgb kComplexBackground{86, 86, 91};    ///< always, no light/dark test
+inline constexpr Rgb kDarkBackground{137, 137, 142};  ///< a mid grey, not black
+inline constexpr Rgb kComplexBackground{86, 86, 91};  ///< always, no light/dark test
 
 constexpr Rect rootViewFrame(double w) { return {0.0, 0.0, w, 460.0}; }
 constexpr Rect digitFieldFrame(double w) { return {w / 2.0 - 73.0, 157.0, 147.0, 33.404}; }

@@ -8,8 +8,7 @@ using tessarin::passcode::Text;
 using tessarin::passcode::TextTable;
 
 static NSString *stringFromView(std::string_view text) {
-  NSString *s = [[[NSString alloc] initWithBytes:text.data()
-                                          length:text.size()
+  NSString *s = [[[NSString alloc] initWithBytes:text.data() length:text.size()
                                         encoding:NSUTF8StringEncoding] autorelease];
   return s != nil ? s : @"";
 }

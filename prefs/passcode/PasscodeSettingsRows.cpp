@@ -42,8 +42,7 @@ std::string_view actionSelector(RowAction action) {
   return {};
 }
 
-std::vector<KeptRow> keptSettingsRows(const SettingsContext &ctx,
-                                      const std::vector<std::string> &loadedIDs) {
+std::vector<KeptRow> keptSettingsRows(const SettingsContext &ctx, const std::vector<std::string> &loadedIDs) {
   std::vector<KeptRow> kept;
   for (std::size_t i = 0; i < loadedIDs.size(); ++i) {
     const std::string &id = loadedIDs[i];

@@ -88,15 +88,14 @@ enum class RowAction {
 std::string_view actionSelector(RowAction action);
 
 struct KeptRow {
-  std::size_t index = 0;      ///< position in the loaded rows
-  std::string_view id;        ///< one of the k...RowID constants
+  std::size_t index = 0;  ///< position in the loaded rows
+  std::string_view id;    ///< one of the k...RowID constants
   RowAction action = RowAction::None;
   bool renameForFaceID = false;  ///< give it kUseOnlyFaceIDName
 };
 
 /// The loaded rows to keep, in their loaded order, given their "id"
 /// properties (empty for a row without one). Unknown rows are dropped.
-std::vector<KeptRow> keptSettingsRows(const SettingsContext &ctx,
-                                      const std::vector<std::string> &loadedIDs);
+std::vector<KeptRow> keptSettingsRows(const SettingsContext &ctx, const std::vector<std::string> &loadedIDs);
 
 }  // namespace tessarin::passcode

@@ -62,7 +62,7 @@ void setCentreX(UIView *view, CGFloat x) {
   BOOL dark = NO;
   AXInvertColorsIsSystemWideDarkModeEnabledFunction systemWideDark =
       (AXInvertColorsIsSystemWideDarkModeEnabledFunction)dlsym(RTLD_DEFAULT,
-                                                                "AXInvertColorsIsSystemWideDarkModeEnabled");
+                                                               "AXInvertColorsIsSystemWideDarkModeEnabled");
   if (systemWideDark != NULL) dark = systemWideDark() ? YES : NO;
   if (!dark && [self respondsToSelector:@selector(traitCollection)]) {
     UITraitCollection *traits = [self traitCollection];
@@ -81,7 +81,8 @@ void setCentreX(UIView *view, CGFloat x) {
   delete _setFlow;
   _setFlow = new passcode::SetPasscodeFlow();
 
-  PSPasscodeField *field = [[[PSPasscodeField alloc] initWithNumberOfEntryFields:passcode::kDigitEntryFields] autorelease];
+  PSPasscodeField *field =
+      [[[PSPasscodeField alloc] initWithNumberOfEntryFields:passcode::kDigitEntryFields] autorelease];
   [field setFrame:cgRect(passcode::digitFieldFrame(width))];
   [field setSecurePasscodeEntry:YES];
   [field setDelegate:self];
@@ -142,7 +143,8 @@ void setCentreX(UIView *view, CGFloat x) {
   if (_setFlow == nullptr) _setFlow = new passcode::SetPasscodeFlow();
   passcode::Step step = _setFlow->enter(passcodeEntryView(passcode));
   // pass1 holds the first entry while the page asks for it again.
-  self.pass1 = _setFlow->state() == passcode::SetPasscodeFlow::State::Reenter ? [[stringOf(passcode) copy] autorelease] : nil;
+  self.pass1 =
+      _setFlow->state() == passcode::SetPasscodeFlow::State::Reenter ? [[stringOf(passcode) copy] autorelease] : nil;
   [self carryOutStep:step centre:centre];
 }
 

@@ -13,9 +13,7 @@
 
 namespace passcode = tessarin::passcode;
 
-namespace {
-
-}  // namespace
+namespace {}  // namespace
 
 void resetPasscode(CFNotificationCenterRef center, void *observer, CFStringRef name, const void *object,
                    CFDictionaryRef userInfo) {
@@ -32,7 +30,8 @@ void resetPasscode(CFNotificationCenterRef center, void *observer, CFStringRef n
 - (NSMutableArray *)specifiers {
   if ([_specifiers count] != 0) return (NSMutableArray *)_specifiers;
 
-  NSArray *loaded = [self loadSpecifiersFromPlistName:nsStringOrEmpty(std::string_view(passcode::kSettingsPlistName)) target:self];
+  NSArray *loaded = [self loadSpecifiersFromPlistName:nsStringOrEmpty(std::string_view(passcode::kSettingsPlistName))
+                                               target:self];
   id stored = storedPreference(&tessarin::key::kPasscode);
 
   passcode::SettingsContext context;

@@ -14,8 +14,7 @@ namespace passcode = tessarin::passcode;
 namespace {
 
 NSString *nameOf(std::string_view name) {
-  return [[[NSString alloc] initWithBytes:name.data() length:name.size() encoding:NSUTF8StringEncoding]
-      autorelease];
+  return [[[NSString alloc] initWithBytes:name.data() length:name.size() encoding:NSUTF8StringEncoding] autorelease];
 }
 
 // The device passcode's length from the passcode manager; 0 when unknown.
@@ -75,7 +74,8 @@ passcode::TokenAnswer tokenAnswer(id controller, SEL selector) {
   [super loadView];
 
   const int fields = passcode::entryFieldCount(devicePasscodeLength());
-  if (fields != passcode::kDigitEntryFields && [self.passcodeField respondsToSelector:@selector(setNumberOfEntryFields:)])
+  if (fields != passcode::kDigitEntryFields &&
+      [self.passcodeField respondsToSelector:@selector(setNumberOfEntryFields:)])
     [self.passcodeField setNumberOfEntryFields:fields];
   UIView *field = self.passcodeField;
   CGPoint centre = [field center];

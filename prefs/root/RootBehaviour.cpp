@@ -89,7 +89,8 @@ SetupDecision setupDecision(const SetupFacts &facts, SetupOrigin origin) {
 Alert resetQuestionAlert() {
   return {kAlertTitle,
           kResetQuestion,
-          {{kCancelTitle, ActionStyle::Cancel, Effect::Nothing}, {kResetTitle, ActionStyle::Default, Effect::ResetAllSettings}}};
+          {{kCancelTitle, ActionStyle::Cancel, Effect::Nothing},
+           {kResetTitle, ActionStyle::Default, Effect::ResetAllSettings}}};
 }
 
 Alert resetDoneAlert() {

@@ -79,8 +79,7 @@ bool isSimplePasscode(const PasscodeCharacteristics &characteristics) {
 
 std::optional<DeviceAuthRow> deviceAuthRow(const DeviceFacts &device,
                                            const std::optional<PasscodeCharacteristics> &devicePasscode,
-                                           bool warningAdded,
-                                           FunctionRef<bool(std::string_view)> classExists) {
+                                           bool warningAdded, FunctionRef<bool(std::string_view)> classExists) {
   if (!device.biometricSensor) return std::nullopt;
 
   DeviceAuthRow row{};
@@ -101,15 +100,14 @@ std::optional<DeviceAuthRow> deviceAuthRow(const DeviceFacts &device,
   return row;
 }
 
-RootRowsPlan planRootRows(const std::vector<std::string> &loadedIds, const RootPageFacts &facts,
-                          const FileProbe &probe, FunctionRef<bool(std::string_view)> classExists) {
+RootRowsPlan planRootRows(const std::vector<std::string> &loadedIds, const RootPageFacts &facts, const FileProbe &probe,
+                          FunctionRef<bool(std::string_view)> classExists) {
   RootRowsPlan plan;
   const auto disabled = [&](std::string_view id) {
     return rowDisabled(id, facts.biometricsSet, facts.productPasscodeSet);
   };
 
-  const bool plistHasWarning =
-      std::find(loadedIds.begin(), loadedIds.end(), kTrustedWarningId) != loadedIds.end();
+  const bool plistHasWarning = std::find(loadedIds.begin(), loadedIds.end(), kTrustedWarningId) != loadedIds.end();
   plan.warning = warningRow(facts.gracePeriod, facts.trustedNetwork, plistHasWarning);
   if (plan.warning) {
     plan.rows.push_back({PlannedRowKind::WarningGroup, 0, RowAction::Keep, disabled(kTrustedWarningGroupId)});

@@ -227,8 +227,7 @@ struct DeviceAuthRow {
 /// answers false). The indexes are fixed: 7/8, or 9/10 below a warning row.
 std::optional<DeviceAuthRow> deviceAuthRow(const DeviceFacts &device,
                                            const std::optional<PasscodeCharacteristics> &devicePasscode,
-                                           bool warningAdded,
-                                           FunctionRef<bool(std::string_view)> classExists);
+                                           bool warningAdded, FunctionRef<bool(std::string_view)> classExists);
 
 // ---------------------------------------------------------------------------
 // The credits block at the bottom: an empty group, the credits row, and the
@@ -269,9 +268,9 @@ enum class PlannedRowKind {
 
 struct PlannedRow {
   PlannedRowKind kind;
-  std::size_t loadedIndex = 0;        ///< Loaded only
+  std::size_t loadedIndex = 0;         ///< Loaded only
   RowAction action = RowAction::Keep;  ///< Loaded only; never Drop
-  bool disabled = false;              ///< set "enabled" to false
+  bool disabled = false;               ///< set "enabled" to false
 };
 
 struct RootRowsPlan {
@@ -283,7 +282,7 @@ struct RootRowsPlan {
 /// `loadedIds` are the ids of the plist rows in plist order (empty for a row
 /// without one). When the list is too short for the fixed insertion indexes,
 /// the device-authentication rows go at its end.
-RootRowsPlan planRootRows(const std::vector<std::string> &loadedIds, const RootPageFacts &facts,
-                          const FileProbe &probe, FunctionRef<bool(std::string_view)> classExists);
+RootRowsPlan planRootRows(const std::vector<std::string> &loadedIds, const RootPageFacts &facts, const FileProbe &probe,
+                          FunctionRef<bool(std::string_view)> classExists);
 
 }  // namespace tessarin::root

@@ -103,8 +103,7 @@ BOOL appsContain(id apps, NSString *bundleIdentifier) {
   if (![apps isKindOfClass:[NSArray class]]) return NO;
   for (id app in (NSArray *)apps) {
     if ([app isEqual:bundleIdentifier]) return YES;
-    if ([app isKindOfClass:[NSDictionary class]] &&
-        [[app objectForKey:@"bundleIdentifier"] isEqual:bundleIdentifier])
+    if ([app isKindOfClass:[NSDictionary class]] && [[app objectForKey:@"bundleIdentifier"] isEqual:bundleIdentifier])
       return YES;
   }
   return NO;
@@ -199,7 +198,8 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
 // What the product's settings say: biometrics set up (SpringBoard's answer) and a passcode stored.
 - (root::RootPageFacts)settingsFacts {
   root::RootPageFacts facts;
-  facts.biometricsSet = root::biometricsSet(integerEntry(askSpringBoard(tessarin::message::kBiometricsEnrolled), @"idsn"));
+  facts.biometricsSet =
+      root::biometricsSet(integerEntry(askSpringBoard(tessarin::message::kBiometricsEnrolled), @"idsn"));
   facts.productPasscodeSet = productPasscodeStored();
   return facts;
 }
@@ -352,11 +352,9 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
   const CGFloat width = [[self view] frame].size.width;
   const root::Rect headerFrame = root::header::headerFrame(width);
   const root::Rect labelFrame = root::header::versionLabelFrame(width, isRightToLeft([self view]));
-  UIView *headerView =
-      [[UIView alloc] initWithFrame:cgRect(headerFrame)];
+  UIView *headerView = [[UIView alloc] initWithFrame:cgRect(headerFrame)];
   [headerView setClipsToBounds:root::header::kClipsToBounds];
-  UILabel *label =
-      [[UILabel alloc] initWithFrame:cgRect(labelFrame)];
+  UILabel *label = [[UILabel alloc] initWithFrame:cgRect(labelFrame)];
   [label setFont:[UIFont systemFontOfSize:root::header::kFontSize]];
   [label setTextAlignment:(NSTextAlignment)root::header::alignment(isRightToLeft([self view]))];
   [label setTextColor:[UIColor lightGrayColor]];
@@ -398,7 +396,7 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
   // Empty options: the page opens in the browser, as a plain link would.
   [[UIApplication sharedApplication] openURL:[NSURL URLWithString:kCatalogueURL]
                                      options:[NSDictionary dictionary]
-                             completionHandler:nil];
+                           completionHandler:nil];
 }
 
 - (void)alertView:(id)alertView clickedButtonAtIndex:(NSInteger)buttonIndex {
@@ -417,9 +415,7 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
     const root::Effect effect = button.effect;
     void (^handler)(UIAlertAction *) = nil;
     if (effect != root::Effect::Nothing) {
-      handler = ^(UIAlertAction *action) {
-        [self performEffect:effect];
-      };
+      handler = ^(UIAlertAction *action) { [self performEffect:effect]; };
     }
     UIAlertActionStyle style =
         button.style == root::ActionStyle::Cancel ? UIAlertActionStyleCancel : UIAlertActionStyleDefault;
@@ -434,14 +430,10 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
     case root::Effect::Nothing:
       break;
     case root::Effect::SetUpDeviceAuthentication:
-      dispatch_async(dispatch_get_main_queue(), ^{
-        [self setUpDeviceAuthenticationFrom:root::SetupOrigin::Prompt];
-      });
+      dispatch_async(dispatch_get_main_queue(), ^{ [self setUpDeviceAuthenticationFrom:root::SetupOrigin::Prompt]; });
       break;
     case root::Effect::PushPasscodeSettings:
-      dispatch_async(dispatch_get_main_queue(), ^{
-        [self pushPasscodeSettings];
-      });
+      dispatch_async(dispatch_get_main_queue(), ^{ [self pushPasscodeSettings]; });
       break;
     case root::Effect::ResetAllSettings:
       resetAllPreferences();
@@ -498,10 +490,12 @@ void setIdentifier(PSSpecifier *specifier, std::string_view identifier) {
     systemPage = [[[pageClass alloc] initForContentSize:CGSizeZero] autorelease];
     if (systemPage != nil) break;
   }
-  if (decision.pushSystemPage && systemPage != nil) [settingsRootController() pushViewController:systemPage animated:YES];
+  if (decision.pushSystemPage && systemPage != nil)
+    [settingsRootController() pushViewController:systemPage animated:YES];
   if (decision.notice) {
-    UIViewController *presenter =
-        decision.noticeFrom == root::NoticeFrom::PushedPage && systemPage != nil ? systemPage : (UIViewController *)self;
+    UIViewController *presenter = decision.noticeFrom == root::NoticeFrom::PushedPage && systemPage != nil
+                                      ? systemPage
+                                      : (UIViewController *)self;
     [self showAlert:*decision.notice from:presenter];
   }
 }

@@ -48,16 +48,25 @@ id knownNetworkRecords(void) {
   PSSpecifier *explanation = nil;
   PSSpecifier *list = nil;
   if ([PSSpecifier respondsToSelector:@selector(groupSpecifierWithHeader:footer:)]) {
-    explanation = [PSSpecifier groupSpecifierWithHeader:nil
-                                                 footer:localizedString(@"TRUSTED_WIFI_NETWORKS_FOOTER",
-                                                                        @"Select the WiFi network(s) on which you want to automatically disable Tessarin when connected to. For security reasons, only already joined networks are available. If you wish to add a new network, join the network first in order for it to appear in the list.")];
+    explanation = [PSSpecifier
+        groupSpecifierWithHeader:nil
+                          footer:localizedString(
+                                     @"TRUSTED_WIFI_NETWORKS_FOOTER",
+                                     @"Select the WiFi network(s) on which you want to automatically disable Tessarin "
+                                     @"when connected to. For security reasons, only already joined networks are "
+                                     @"available. If you wish to add a new network, join the network first in order "
+                                     @"for it to appear in the list.")];
     list = [PSSpecifier groupSpecifierWithHeader:listHeader footer:nil];
   } else {
     // Older systems word it without "for it".
     explanation = [PSSpecifier groupSpecifierWithName:nil];
-    [explanation setProperty:localizedString(@"TRUSTED_WIFI_NETWORKS_FOOTER_LEGACY",
-                                             @"Select the WiFi network(s) on which you want to automatically disable Tessarin when connected to. For security reasons, only already joined networks are available. If you wish to add a new network, join the network first in order to appear in the list.")
-                      forKey:@"footerText"];
+    [explanation
+        setProperty:localizedString(
+                        @"TRUSTED_WIFI_NETWORKS_FOOTER_LEGACY",
+                        @"Select the WiFi network(s) on which you want to automatically disable Tessarin when "
+                        @"connected to. For security reasons, only already joined networks are available. If you wish "
+                        @"to add a new network, join the network first in order to appear in the list.")
+             forKey:@"footerText"];
     list = [PSSpecifier groupSpecifierWithName:listHeader];
   }
   [rows addObject:explanation];
@@ -79,8 +88,8 @@ id knownNetworkRecords(void) {
 
 - (id)getNetworkProtectedForSpecifier:(PSSpecifier *)specifier {
   std::optional<tessarin::plist::Value> stored = storedTrustedList();
-  const BOOL trusted = wifi::isNetworkTrusted(stored ? &*stored : nullptr,
-                                              stdString([specifier propertyForKey:@"bssid"]), stdString([specifier name]));
+  const BOOL trusted = wifi::isNetworkTrusted(
+      stored ? &*stored : nullptr, stdString([specifier propertyForKey:@"bssid"]), stdString([specifier name]));
   return @(trusted);
 }
 
@@ -88,8 +97,9 @@ id knownNetworkRecords(void) {
   std::optional<tessarin::plist::Value> stored = storedTrustedList();
   const std::string bssid = stdString([specifier propertyForKey:@"bssid"]);
   const BOOL on = [value respondsToSelector:@selector(boolValue)] && [value boolValue];
-  tessarin::plist::Value changed = on ? wifi::trustNetwork(stored ? &*stored : nullptr, bssid, stdString([specifier name]))
-                                      : wifi::untrustNetwork(stored ? &*stored : nullptr, bssid);
+  tessarin::plist::Value changed =
+      on ? wifi::trustNetwork(stored ? &*stored : nullptr, bssid, stdString([specifier name]))
+         : wifi::untrustNetwork(stored ? &*stored : nullptr, bssid);
   // SpringBoard reads this list when it next looks: the key table marks its writes unannounced.
   storePreference(objectFromPlistValue(changed), &tessarin::key::kAllowedWiFis);
 }
@@ -148,11 +158,11 @@ id knownNetworkRecords(void) {
 
   UIAlertAction *okay = [UIAlertAction actionWithTitle:localizedString(@"OKAY", @"Okay")
                                                  style:UIAlertActionStyleCancel
-                                               handler:^(UIAlertAction *action) {
-                                               }];
-  NSString *message = [NSString
-      stringWithFormat:localizedString(@"PASSWORD_COPIED", @"Password: %@ for network: %@ has been copied to clipboard."),
-                       password, [row name]];
+                                               handler:^(UIAlertAction *action){}];
+  NSString *message =
+      [NSString stringWithFormat:localizedString(@"PASSWORD_COPIED",
+                                                 @"Password: %@ for network: %@ has been copied to clipboard."),
+                                 password, [row name]];
   id page = row.target;
   showAlertWithTitleAndMessageAndAlertActionsFromViewControllerWithStyle(
       @"Tessarin Nova", message, [NSArray arrayWithObject:okay],

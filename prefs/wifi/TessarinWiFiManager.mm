@@ -19,9 +19,7 @@ WiFiDeviceClientCopyCurrentNetworkFunction xWiFiDeviceClientCopyCurrentNetwork =
 WiFiManagerClientCreateFunction xWiFiManagerClientCreate = NULL;
 WiFiManagerClientCopyDevicesFunction xWiFiManagerClientCopyDevices = NULL;
 
-NSString *stringOrNil(id object) {
-  return [object isKindOfClass:[NSString class]] ? object : nil;
-}
+NSString *stringOrNil(id object) { return [object isKindOfClass:[NSString class]] ? object : nil; }
 
 std::optional<std::string> text(NSString *string) {
   if (string == nil) return std::nullopt;
@@ -48,13 +46,17 @@ NSArray *arrayFromCopy(CFArrayRef copied) {
 - (instancetype)init {
   if (!(self = [super init])) return nil;
   sharedwifi = self;
-  xWiFiManagerClientScheduleWithRunLoop = (WiFiManagerClientScheduleWithRunLoopFunction)dlsym(RTLD_DEFAULT, "WiFiManagerClientScheduleWithRunLoop");
+  xWiFiManagerClientScheduleWithRunLoop =
+      (WiFiManagerClientScheduleWithRunLoopFunction)dlsym(RTLD_DEFAULT, "WiFiManagerClientScheduleWithRunLoop");
   __mWiFiNetworkGetProperty = (WiFiNetworkGetPropertyFunction)dlsym(RTLD_DEFAULT, "WiFiNetworkGetProperty");
   __mWiFiNetworkCopyPassword = (WiFiNetworkCopyPasswordFunction)dlsym(RTLD_DEFAULT, "WiFiNetworkCopyPassword");
-  xWiFiDeviceClientCopyCurrentNetwork = (WiFiDeviceClientCopyCurrentNetworkFunction)dlsym(RTLD_DEFAULT, "WiFiDeviceClientCopyCurrentNetwork");
+  xWiFiDeviceClientCopyCurrentNetwork =
+      (WiFiDeviceClientCopyCurrentNetworkFunction)dlsym(RTLD_DEFAULT, "WiFiDeviceClientCopyCurrentNetwork");
   xWiFiManagerClientCreate = (WiFiManagerClientCreateFunction)dlsym(RTLD_DEFAULT, "WiFiManagerClientCreate");
-  xWiFiManagerClientCopyDevices = (WiFiManagerClientCopyDevicesFunction)dlsym(RTLD_DEFAULT, "WiFiManagerClientCopyDevices");
-  xWiFiManagerClientCopyNetworks = (WiFiManagerClientCopyNetworksFunction)dlsym(RTLD_DEFAULT, "WiFiManagerClientCopyNetworks");
+  xWiFiManagerClientCopyDevices =
+      (WiFiManagerClientCopyDevicesFunction)dlsym(RTLD_DEFAULT, "WiFiManagerClientCopyDevices");
+  xWiFiManagerClientCopyNetworks =
+      (WiFiManagerClientCopyNetworksFunction)dlsym(RTLD_DEFAULT, "WiFiManagerClientCopyNetworks");
   // Without the library there is no client: no devices, no networks, no current network.
   if (xWiFiManagerClientCreate != NULL) WifiManager = xWiFiManagerClientCreate(kCFAllocatorDefault, 1);
   return self;
@@ -78,12 +80,12 @@ NSArray *arrayFromCopy(CFArrayRef copied) {
 
 - (NSString *)ssidForNetwork:(void *)network {
   if (network == NULL || __mWiFiNetworkGetProperty == NULL) return nil;
-  return stringOrNil((id)__mWiFiNetworkGetProperty((WiFiNetworkRef)network, (CFStringRef)@"SSID_STR"));
+  return stringOrNil((id)__mWiFiNetworkGetProperty((WiFiNetworkRef)network, (CFStringRef) @"SSID_STR"));
 }
 
 - (NSString *)bssidForNetwork:(void *)network {
   if (network == NULL || __mWiFiNetworkGetProperty == NULL) return nil;
-  return stringOrNil((id)__mWiFiNetworkGetProperty((WiFiNetworkRef)network, (CFStringRef)@"BSSID"));
+  return stringOrNil((id)__mWiFiNetworkGetProperty((WiFiNetworkRef)network, (CFStringRef) @"BSSID"));
 }
 
 - (NSString *)passwordForNetwork:(void *)network {
@@ -96,9 +98,9 @@ NSArray *arrayFromCopy(CFArrayRef copied) {
 }
 
 - (BOOL)isOnTrustedNetwork {
-  CFStringRef domain = (CFStringRef)@(tessarin::kDomain);
+  CFStringRef domain = (CFStringRef) @(tessarin::kDomain);
   CFPreferencesAppSynchronize(domain);
-  id stored = [(id)CFPreferencesCopyAppValue((CFStringRef)@(tessarin::key::kAllowedWiFis.name()), domain) autorelease];
+  id stored = [(id)CFPreferencesCopyAppValue((CFStringRef) @(tessarin::key::kAllowedWiFis.name()), domain) autorelease];
   std::vector<wifi::TrustedEntry> trusted;
   if ([stored isKindOfClass:[NSArray class]]) {
     for (id entry in (NSArray *)stored) {
@@ -106,7 +108,8 @@ NSArray *arrayFromCopy(CFArrayRef copied) {
         trusted.push_back({});
         continue;
       }
-      trusted.push_back({text(stringOrNil([entry objectForKey:@"bssid"])), text(stringOrNil([entry objectForKey:@"ssid"]))});
+      trusted.push_back(
+          {text(stringOrNil([entry objectForKey:@"bssid"])), text(stringOrNil([entry objectForKey:@"ssid"]))});
     }
   }
   return wifi::isTrusted(trusted, [self] { return text([self bssidForNetwork:[self currentNetwork]]); });
@@ -115,7 +118,8 @@ NSArray *arrayFromCopy(CFArrayRef copied) {
 - (NSMutableArray *)networksArrayAsDictionaries {
   NSMutableArray *result = [NSMutableArray array];
   NSArray *networks = [self networks];
-  WiFiNetworkCopyRecordFunction copyRecord = (WiFiNetworkCopyRecordFunction)dlsym(RTLD_DEFAULT, "WiFiNetworkCopyRecord");
+  WiFiNetworkCopyRecordFunction copyRecord =
+      (WiFiNetworkCopyRecordFunction)dlsym(RTLD_DEFAULT, "WiFiNetworkCopyRecord");
 
   std::vector<wifi::PlatformNetwork> known;
   for (id network in networks) {

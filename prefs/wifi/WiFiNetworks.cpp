@@ -19,9 +19,8 @@ double joined(const PlatformNetwork &network) {
 
 std::vector<NetworkRecord> networkRecords(std::vector<PlatformNetwork> networks) {
   // Later joins first; stable so that equal dates keep the platform's order.
-  std::stable_sort(networks.begin(), networks.end(), [](const PlatformNetwork &a, const PlatformNetwork &b) {
-    return joined(a) > joined(b);
-  });
+  std::stable_sort(networks.begin(), networks.end(),
+                   [](const PlatformNetwork &a, const PlatformNetwork &b) { return joined(a) > joined(b); });
 
   std::vector<NetworkRecord> records;
   records.reserve(networks.size());

@@ -12,9 +12,7 @@ NSDictionary *dictionaryOrEmpty(id object) {
   return [object isKindOfClass:[NSDictionary class]] ? object : [NSDictionary dictionary];
 }
 
-NSArray *arrayOrEmpty(id object) {
-  return [object isKindOfClass:[NSArray class]] ? object : [NSArray array];
-}
+NSArray *arrayOrEmpty(id object) { return [object isKindOfClass:[NSArray class]] ? object : [NSArray array]; }
 
 std::optional<std::string> text(id object) {
   if (![object isKindOfClass:[NSString class]]) return std::nullopt;
@@ -72,12 +70,14 @@ std::optional<std::string> text(id object) {
 - (NSDictionary *)libraryVersionReply {
   NSDictionary *facts = [self springBoardFacts];
   id limit = [facts objectForKey:@"libraryVersionReplies"];
-  if ([limit respondsToSelector:@selector(unsignedIntegerValue)] && _libraryVersionReplies >= [limit unsignedIntegerValue]) {
+  if ([limit respondsToSelector:@selector(unsignedIntegerValue)] &&
+      _libraryVersionReplies >= [limit unsignedIntegerValue]) {
     return [NSDictionary dictionary];
   }
   _libraryVersionReplies++;
   id version = [facts objectForKey:@"libraryVersion"];
-  unsigned long long value = [version respondsToSelector:@selector(unsignedLongLongValue)] ? [version unsignedLongLongValue] : 0;
+  unsigned long long value =
+      [version respondsToSelector:@selector(unsignedLongLongValue)] ? [version unsignedLongLongValue] : 0;
   return [NSDictionary dictionaryWithObject:[NSNumber numberWithUnsignedLongLong:value] forKey:@"dlbv"];
 }
 

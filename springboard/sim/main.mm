@@ -30,7 +30,8 @@ static void warmUp(SimulatedSpringBoard *springBoard) {
                                   CFNotificationSuspensionBehaviorDeliverImmediately);
   notify_post("net.corvane.tessarin.simulator.selfcheck");
   archivedReply([springBoard replyToMessage:@"appL" userInfo:nil]);
-  if (!SimRunLoopRunUntil(^BOOL { return arrived; }, 10.0)) {
+  if (!SimRunLoopRunUntil(
+          ^BOOL { return arrived; }, 10.0)) {
     fprintf(stderr, "tessarin-springboard: its own notification did not come round in 10 s\n");
   }
   CFNotificationCenterRemoveObserver(CFNotificationCenterGetDarwinNotifyCenter(), &arrived, name, NULL);

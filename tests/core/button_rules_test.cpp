@@ -71,9 +71,18 @@ TEST(ButtonRules, HexColoursReadAsTheScannerReadsThem) {
     const char *text;
     std::optional<uint32_t> scanned;
   } cases[] = {
-      {"305a94", 0x305a94u},   {"8a9bb1", 0x8a9bb1u},  {"#305a94", std::nullopt}, {"0x305a94", 0x305a94u},
-      {"0X305A94", 0x305a94u}, {"  ff0000", 0xff0000u}, {"305a94zz", 0x305a94u},  {"", std::nullopt},
-      {"zz", std::nullopt},    {"0x", 0u},              {"0xg", 0u},              {"1ffffffff", 0xFFFFFFFFu},
+      {"305a94", 0x305a94u},
+      {"8a9bb1", 0x8a9bb1u},
+      {"#305a94", std::nullopt},
+      {"0x305a94", 0x305a94u},
+      {"0X305A94", 0x305a94u},
+      {"  ff0000", 0xff0000u},
+      {"305a94zz", 0x305a94u},
+      {"", std::nullopt},
+      {"zz", std::nullopt},
+      {"0x", 0u},
+      {"0xg", 0u},
+      {"1ffffffff", 0xFFFFFFFFu},
       {"ffffffff", 0xFFFFFFFFu},
   };
   for (const auto &c : cases) EXPECT_EQ(scanHexInt(c.text), c.scanned) << c.text;

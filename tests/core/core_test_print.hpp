@@ -8,7 +8,7 @@
 
 namespace tessarin::plist {
 inline void PrintTo(const Value &v, std::ostream *os) {
-    const std::string xml = writeXmlPlist(v);
-    *os << (xml.empty() ? std::string("<unprintable value>") : xml.substr(0, 600));
+  const std::string xml = writeXmlPlist(v);
+  *os << (xml.empty() ? std::string("<unprintable value>") : xml.substr(0, 600));
 }
 }  // namespace tessarin::plist

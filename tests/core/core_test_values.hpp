@@ -9,9 +9,9 @@
 
 // An array value of strings.
 inline tessarin::plist::Value strings(std::initializer_list<const char *> items) {
-    tessarin::plist::Value a = tessarin::plist::Value::array();
-    for (const char *s : items) a.append(tessarin::plist::Value::string(s));
-    return a;
+  tessarin::plist::Value a = tessarin::plist::Value::array();
+  for (const char *s : items) a.append(tessarin::plist::Value::string(s));
+  return a;
 }
 
 // The list of strings a rule is expected to give.

@@ -11,7 +11,7 @@ namespace {
 
 // Log names are local time; these tests read them in UTC.
 class CrashLogs : public ::testing::Test {
-protected:
+ protected:
   void SetUp() override {
     const char *tz = std::getenv("TZ");
     saved_ = tz ? std::optional<std::string>(tz) : std::nullopt;
@@ -19,12 +19,14 @@ protected:
     tzset();
   }
   void TearDown() override {
-    if (saved_) setenv("TZ", saved_->c_str(), 1);
-    else unsetenv("TZ");
+    if (saved_)
+      setenv("TZ", saved_->c_str(), 1);
+    else
+      unsetenv("TZ");
     tzset();
   }
 
-private:
+ private:
   std::optional<std::string> saved_;
 };
 
@@ -39,10 +41,10 @@ TEST_F(CrashLogs, TimestampFromName) {
       {"Tessarin-05-Mar-2024-14-07-09.log", 1709647629},
       {"Tessarin-01-Jan-1970-00-00-01.log", 1},
       {"Tessarin-29-Feb-2024-23-59-59.log", 1709251199},
-      {"Tessarin-5-mar-2024-14-7-9.log", 1709647629},      // short fields and any case parse
+      {"Tessarin-5-mar-2024-14-7-9.log", 1709647629},         // short fields and any case parse
       {"Tessarin-31-Dec-2023-12-00-00.log.log", 1704024000},  // every ".log" goes
-      {"05-Mar-2024-14-07-09.log", 1709647629},            // the prefix is optional
-      {"Tessarin-29-Feb-2023-10-00-00.log", 0},            // no such day
+      {"05-Mar-2024-14-07-09.log", 1709647629},               // the prefix is optional
+      {"Tessarin-29-Feb-2023-10-00-00.log", 0},               // no such day
       {"Tessarin-31-Apr-2024-10-00-00.log", 0},
       {"Tessarin-05-Mar-2024-24-00-00.log", 0},
       {"Tessarin-05-Mar-2024-14-60-00.log", 0},
@@ -157,7 +159,7 @@ TEST_F(CrashLogs, ResolvedPathInsideTheDirectory) {
       {dir + "/deeper/x.log", dir, std::nullopt},
       {dir, dir, std::nullopt},
       {dir + "/", dir, std::nullopt},
-      {dir + "Other/x.log", dir, std::nullopt},  // a sibling that only begins like it
+      {dir + "Other/x.log", dir, std::nullopt},                        // a sibling that only begins like it
       {"/var/mobile/Library/Logs/Tessarin/x.log", dir, std::nullopt},  // not the real path
       {"/x.log", "/", std::string("x.log")},
       {dir + "/x.log", "", std::nullopt},
@@ -244,9 +246,11 @@ TEST_F(CrashLogs, SizeText) {
     const char *text;
   };
   const Case cases[] = {
-      {0, "0 bytes"},          {999, "999 bytes"},      {1000, "1 KB"},         {1050, "1.1 KB"},
-      {999949, "999.9 KB"},    {999950, "1 MB"},        {1000000, "1 MB"}, {33554432, "33.6 MB"},
-      {2100000000, "2.1 GB"},  {5000000000000000, "5000 TB"},
+      {0, "0 bytes"},         {999, "999 bytes"},
+      {1000, "1 KB"},         {1050, "1.1 KB"},
+      {999949, "999.9 KB"},   {999950, "1 MB"},
+      {1000000, "1 MB"},      {33554432, "33.6 MB"},
+      {2100000000, "2.1 GB"}, {5000000000000000, "5000 TB"},
   };
   for (const Case &c : cases) EXPECT_EQ(sizeText(c.bytes), c.text) << c.bytes;
 }

@@ -47,13 +47,12 @@ TEST_P(DeviceFlowTable, TwoErrorsAllowedPerOpening) {
 
 INSTANTIATE_TEST_SUITE_P(
     Cases, DeviceFlowTable,
-    ::testing::Values(
-        DeviceCase{"right_at_once", {"135790"}, 1, 0, true, false},
-        DeviceCase{"one_wrong_then_right", {"000000", "135790"}, 2, 1, true, false},
-        DeviceCase{"two_wrong_then_right", {"000000", "111111", "135790"}, 2, 2, false, true},
-        DeviceCase{"three_wrong", {"1", "2", "3"}, 2, 2, false, true},
-        DeviceCase{"nothing_after_refusal", {"1", "2", "3", "135790"}, 2, 2, false, true},
-        DeviceCase{"nothing_after_success", {"135790", "1", "135790"}, 1, 0, true, false}),
+    ::testing::Values(DeviceCase{"right_at_once", {"135790"}, 1, 0, true, false},
+                      DeviceCase{"one_wrong_then_right", {"000000", "135790"}, 2, 1, true, false},
+                      DeviceCase{"two_wrong_then_right", {"000000", "111111", "135790"}, 2, 2, false, true},
+                      DeviceCase{"three_wrong", {"1", "2", "3"}, 2, 2, false, true},
+                      DeviceCase{"nothing_after_refusal", {"1", "2", "3", "135790"}, 2, 2, false, true},
+                      DeviceCase{"nothing_after_success", {"135790", "1", "135790"}, 1, 0, true, false}),
     [](const auto &info) { return std::string(info.param.name); });
 
 TEST(DevicePasscodeFlow, EmptyCheckerCountsAsWrong) {
@@ -92,10 +91,11 @@ TEST(DevicePasscode, SystemControllerChoice) {
     const char *chosen;
   } cases[] = {
       {"faceid_wins_over_fingerprint", true, all, "PSUIPearlPasscodeController"},
-      {"faceid_without_its_class", true,
-       {"PSMesaSettingsController", "PSTouchIDPasscodeController"}, ""},
+      {"faceid_without_its_class", true, {"PSMesaSettingsController", "PSTouchIDPasscodeController"}, ""},
       {"mesa_first", false, all, "PSMesaSettingsController"},
-      {"touchid_second", false, {"PSTouchIDPasscodeController", "PSUITouchIDPasscodeController"},
+      {"touchid_second",
+       false,
+       {"PSTouchIDPasscodeController", "PSUITouchIDPasscodeController"},
        "PSTouchIDPasscodeController"},
       {"ui_touchid_last", false, {"PSUITouchIDPasscodeController"}, "PSUITouchIDPasscodeController"},
       {"pearl_ignored_without_faceid", false, {"PSUIPearlPasscodeController"}, ""},
@@ -121,9 +121,8 @@ TEST(DevicePasscode, AuthorisationToken) {
     T pub;
     bool unlocked;
   } cases[] = {
-      {T::NotAnswered, T::NotAnswered, true}, {T::Present, T::NotAnswered, true},
-      {T::NotAnswered, T::Present, true},     {T::Present, T::Present, true},
-      {T::Null, T::NotAnswered, false},       {T::NotAnswered, T::Null, false},
+      {T::NotAnswered, T::NotAnswered, true}, {T::Present, T::NotAnswered, true}, {T::NotAnswered, T::Present, true},
+      {T::Present, T::Present, true},         {T::Null, T::NotAnswered, false},   {T::NotAnswered, T::Null, false},
       {T::Present, T::Null, false},           {T::Null, T::Present, false},
   };
   for (const auto &c : cases) {

@@ -65,12 +65,13 @@ INSTANTIATE_TEST_SUITE_P(
         SetCase{"mismatch", {"1234", "4321"}, 0, "", SetPasscodeFlow::State::Enter},
         // After a mismatch the next entry is a new first entry, compared with
         // nothing, and the old first entry is forgotten.
-        SetCase{"restart_after_mismatch", {"1111", "2222", "2222", "2222"}, 1, "2222",
-                SetPasscodeFlow::State::Closed},
-        SetCase{"old_first_forgotten", {"1111", "2222", "1111"}, 0, "",
-                SetPasscodeFlow::State::Reenter},
+        SetCase{"restart_after_mismatch", {"1111", "2222", "2222", "2222"}, 1, "2222", SetPasscodeFlow::State::Closed},
+        SetCase{"old_first_forgotten", {"1111", "2222", "1111"}, 0, "", SetPasscodeFlow::State::Reenter},
         SetCase{"only_first", {"5678"}, 0, "", SetPasscodeFlow::State::Reenter},
-        SetCase{"entries_after_store_ignored", {"1234", "1234", "1234", "1234"}, 1, "1234",
+        SetCase{"entries_after_store_ignored",
+                {"1234", "1234", "1234", "1234"},
+                1,
+                "1234",
                 SetPasscodeFlow::State::Closed}),
     [](const auto &info) { return std::string(info.param.name); });
 
@@ -152,8 +153,7 @@ INSTANTIATE_TEST_SUITE_P(
     ::testing::Values(
         RemoveCase{"right_at_once", std::string("1234"), {"1234"}, 1, 0},
         RemoveCase{"wrong_then_right", std::string("1234"), {"4321", "0000", "1234"}, 1, 2},
-        RemoveCase{"many_wrong_no_lockout", std::string("0007"),
-                   {"1", "2", "3", "4", "5", "6", "7", "0007"}, 1, 7},
+        RemoveCase{"many_wrong_no_lockout", std::string("0007"), {"1", "2", "3", "4", "5", "6", "7", "0007"}, 1, 7},
         RemoveCase{"leading_zeros_differ", std::string("0012"), {"12", "012"}, 0, 2},
         RemoveCase{"nothing_stored", std::nullopt, {"", "0000", "1234"}, 0, 3},
         RemoveCase{"stored_empty_string", std::string(""), {""}, 1, 0}),
@@ -212,51 +212,49 @@ constexpr const char *kAgain = "REENTER_TESSARIN_PASSCODE";
 constexpr const char *kWrongKey = "WRONG_PASSCODE_TRY_AGAIN";
 constexpr const char *kMismatchKey = "PASSCODES_DID_NOT_MATCH_TRY_AGAIN";
 
-INSTANTIATE_TEST_SUITE_P(
-    Cases, ChangeFlowTable,
-    ::testing::Values(
-        ChangeCase{"straight",
-                   std::string("1234"),
-                   {{"1234", Transition::Slide, kNew, "", CS::New},
-                    {"5678", Transition::Slide, kAgain, "", CS::Confirm},
-                    {"5678", Transition::None, "", "", CS::Closed}},
-                   1,
-                   "5678"},
-        ChangeCase{"wrong_old_first",
-                   std::string("1234"),
-                   {{"0000", Transition::Shake, kOld, kWrongKey, CS::Old},
-                    {"1234", Transition::Slide, kNew, "", CS::New},
-                    {"0000", Transition::Slide, kAgain, "", CS::Confirm},
-                    {"0000", Transition::None, "", "", CS::Closed}},
-                   1,
-                   "0000"},
-        // The old passcode is accepted as the new one.
-        ChangeCase{"old_as_new",
-                   std::string("1234"),
-                   {{"1234", Transition::Slide, kNew, "", CS::New},
-                    {"1234", Transition::Slide, kAgain, "", CS::Confirm},
-                    {"1234", Transition::None, "", "", CS::Closed}},
-                   1,
-                   "1234"},
-        // A confirmation mismatch goes back to the new passcode, not the old one.
-        ChangeCase{"mismatch_back_to_new",
-                   std::string("1234"),
-                   {{"1234", Transition::Slide, kNew, "", CS::New},
-                    {"5678", Transition::Slide, kAgain, "", CS::Confirm},
-                    {"8765", Transition::Shake, kNew, kMismatchKey, CS::New},
-                    // The old passcode now counts as a new first entry.
-                    {"1234", Transition::Slide, kAgain, "", CS::Confirm},
-                    {"1234", Transition::None, "", "", CS::Closed}},
-                   1,
-                   "1234"},
-        ChangeCase{"nothing_stored_only_shakes",
-                   std::nullopt,
-                   {{"", Transition::Shake, kOld, kWrongKey, CS::Old},
-                    {"0000", Transition::Shake, kOld, kWrongKey, CS::Old},
-                    {"1234", Transition::Shake, kOld, kWrongKey, CS::Old}},
-                   0,
-                   ""}),
-    [](const auto &info) { return std::string(info.param.name); });
+INSTANTIATE_TEST_SUITE_P(Cases, ChangeFlowTable,
+                         ::testing::Values(ChangeCase{"straight",
+                                                      std::string("1234"),
+                                                      {{"1234", Transition::Slide, kNew, "", CS::New},
+                                                       {"5678", Transition::Slide, kAgain, "", CS::Confirm},
+                                                       {"5678", Transition::None, "", "", CS::Closed}},
+                                                      1,
+                                                      "5678"},
+                                           ChangeCase{"wrong_old_first",
+                                                      std::string("1234"),
+                                                      {{"0000", Transition::Shake, kOld, kWrongKey, CS::Old},
+                                                       {"1234", Transition::Slide, kNew, "", CS::New},
+                                                       {"0000", Transition::Slide, kAgain, "", CS::Confirm},
+                                                       {"0000", Transition::None, "", "", CS::Closed}},
+                                                      1,
+                                                      "0000"},
+                                           // The old passcode is accepted as the new one.
+                                           ChangeCase{"old_as_new",
+                                                      std::string("1234"),
+                                                      {{"1234", Transition::Slide, kNew, "", CS::New},
+                                                       {"1234", Transition::Slide, kAgain, "", CS::Confirm},
+                                                       {"1234", Transition::None, "", "", CS::Closed}},
+                                                      1,
+                                                      "1234"},
+                                           // A confirmation mismatch goes back to the new passcode, not the old one.
+                                           ChangeCase{"mismatch_back_to_new",
+                                                      std::string("1234"),
+                                                      {{"1234", Transition::Slide, kNew, "", CS::New},
+                                                       {"5678", Transition::Slide, kAgain, "", CS::Confirm},
+                                                       {"8765", Transition::Shake, kNew, kMismatchKey, CS::New},
+                                                       // The old passcode now counts as a new first entry.
+                                                       {"1234", Transition::Slide, kAgain, "", CS::Confirm},
+                                                       {"1234", Transition::None, "", "", CS::Closed}},
+                                                      1,
+                                                      "1234"},
+                                           ChangeCase{"nothing_stored_only_shakes",
+                                                      std::nullopt,
+                                                      {{"", Transition::Shake, kOld, kWrongKey, CS::Old},
+                                                       {"0000", Transition::Shake, kOld, kWrongKey, CS::Old},
+                                                       {"1234", Transition::Shake, kOld, kWrongKey, CS::Old}},
+                                                      0,
+                                                      ""}),
+                         [](const auto &info) { return std::string(info.param.name); });
 
 }  // namespace
 }  // namespace tessarin::passcode

@@ -11,17 +11,17 @@ namespace {
 // The rows as a specifier file might list them, with an unknown row and a
 // row without an identifier among them.
 const std::vector<std::string> kLoaded = {
-    "ADD_TESSARIN_PASSCODE", "CHANGE_TESSARIN_PASSCODE", "SOMETHING_ELSE",
-    "REMOVE_TESSARIN_PASSCODE", "", "USE_ONLY_TESSARIN_PASSCODE",
+    "ADD_TESSARIN_PASSCODE",      "CHANGE_TESSARIN_PASSCODE", "SOMETHING_ELSE", "REMOVE_TESSARIN_PASSCODE", "",
+    "USE_ONLY_TESSARIN_PASSCODE",
 };
 
 struct RowsCase {
   const char *name;
   SettingsContext ctx;
-  std::vector<std::string> ids;       // kept rows, in order
-  std::vector<std::size_t> indexes;   // their places in kLoaded
+  std::vector<std::string> ids;      // kept rows, in order
+  std::vector<std::size_t> indexes;  // their places in kLoaded
   std::vector<std::string> actions;
-  bool renamed;                       // the use-only row gets the Face ID name
+  bool renamed;  // the use-only row gets the Face ID name
 };
 
 class SettingsRowsTable : public ::testing::TestWithParam<RowsCase> {};
@@ -49,12 +49,10 @@ TEST_P(SettingsRowsTable, KeepsTheRightRowsInOrder) {
 INSTANTIATE_TEST_SUITE_P(
     Cases, SettingsRowsTable,
     ::testing::Values(
-        RowsCase{"no_passcode_touchid", {false, true, false}, {"ADD_TESSARIN_PASSCODE"}, {0},
-                 {"addPassword"}, false},
-        RowsCase{"no_passcode_faceid", {false, true, true}, {"ADD_TESSARIN_PASSCODE"}, {0},
-                 {"addPassword"}, false},
-        RowsCase{"no_passcode_no_biometrics", {false, false, false}, {"ADD_TESSARIN_PASSCODE"},
-                 {0}, {"addPassword"}, false},
+        RowsCase{"no_passcode_touchid", {false, true, false}, {"ADD_TESSARIN_PASSCODE"}, {0}, {"addPassword"}, false},
+        RowsCase{"no_passcode_faceid", {false, true, true}, {"ADD_TESSARIN_PASSCODE"}, {0}, {"addPassword"}, false},
+        RowsCase{
+            "no_passcode_no_biometrics", {false, false, false}, {"ADD_TESSARIN_PASSCODE"}, {0}, {"addPassword"}, false},
         RowsCase{"passcode_no_biometrics",
                  {true, false, false},
                  {"CHANGE_TESSARIN_PASSCODE", "REMOVE_TESSARIN_PASSCODE"},
@@ -63,23 +61,20 @@ INSTANTIATE_TEST_SUITE_P(
                  false},
         RowsCase{"passcode_touchid",
                  {true, true, false},
-                 {"CHANGE_TESSARIN_PASSCODE", "REMOVE_TESSARIN_PASSCODE",
-                  "USE_ONLY_TESSARIN_PASSCODE"},
+                 {"CHANGE_TESSARIN_PASSCODE", "REMOVE_TESSARIN_PASSCODE", "USE_ONLY_TESSARIN_PASSCODE"},
                  {1, 3, 5},
                  {"changePassword", "removePassword", ""},
                  false},
         RowsCase{"passcode_faceid",
                  {true, true, true},
-                 {"CHANGE_TESSARIN_PASSCODE", "REMOVE_TESSARIN_PASSCODE",
-                  "USE_ONLY_TESSARIN_PASSCODE"},
+                 {"CHANGE_TESSARIN_PASSCODE", "REMOVE_TESSARIN_PASSCODE", "USE_ONLY_TESSARIN_PASSCODE"},
                  {1, 3, 5},
                  {"changePassword", "removePassword", ""},
                  true}),
     [](const auto &info) { return std::string(info.param.name); });
 
 TEST(SettingsRows, OrderFollowsTheFile) {
-  const std::vector<std::string> reversed = {"USE_ONLY_TESSARIN_PASSCODE",
-                                             "REMOVE_TESSARIN_PASSCODE",
+  const std::vector<std::string> reversed = {"USE_ONLY_TESSARIN_PASSCODE", "REMOVE_TESSARIN_PASSCODE",
                                              "CHANGE_TESSARIN_PASSCODE"};
   std::vector<KeptRow> kept = keptSettingsRows({true, true, false}, reversed);
   ASSERT_EQ(kept.size(), 3u);
@@ -104,7 +99,9 @@ TEST(SettingsFooter, WithoutASensorTheFaceIDFlagIsIgnored) {
 // units (the emoji takes two).
 std::string testLanguage(const LocalText &text) {
   if (text.key == kForgotPasscodeLink.key) return "Code vergessen \xF0\x9F\x94\x91...";
-  if (text.key == kRecoveryTouchIDFooter.key) return "\xC3\x9C" "ber TouchID l\xC3\xB6schen.";
+  if (text.key == kRecoveryTouchIDFooter.key)
+    return "\xC3\x9C"
+           "ber TouchID l\xC3\xB6schen.";
   return std::string(text.english);
 }
 
@@ -115,7 +112,9 @@ TEST(SettingsFooter, LinkRangeFollowsTheLinkTextInEveryLanguage) {
   EXPECT_EQ(english.text.substr(english.linkLocation, 24), " I forgot my passcode...");
 
   const SettingsFooter german = settingsFooter({true, true, false}, testLanguage);
-  EXPECT_EQ(german.text, "\xC3\x9C" "ber TouchID l\xC3\xB6schen. Code vergessen \xF0\x9F\x94\x91...");
+  EXPECT_EQ(german.text,
+            "\xC3\x9C"
+            "ber TouchID l\xC3\xB6schen. Code vergessen \xF0\x9F\x94\x91...");
   // "Über TouchID löschen." is 21 units, the link 20 (the key is two).
   EXPECT_EQ(german.linkLocation, 21u);
   EXPECT_EQ(german.linkLength, 20u);

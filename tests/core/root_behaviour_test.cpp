@@ -21,7 +21,11 @@ FirstRunFacts unsetUp() {
 }  // namespace
 
 TEST(RootBehaviour, FirstRunPromptShownOnlyWhenNothingIsSetUp) {
-  struct Case { const char *name; void (*change)(FirstRunFacts &); bool shown; };
+  struct Case {
+    const char *name;
+    void (*change)(FirstRunFacts &);
+    bool shown;
+  };
   const Case cases[] = {
       {"nothing set up", [](FirstRunFacts &) {}, true},
       {"product passcode stored", [](FirstRunFacts &f) { f.productPasscodeStored = true; }, false},
@@ -61,26 +65,71 @@ TEST(RootBehaviour, FirstRunPromptTexts) {
 
 TEST(RootBehaviour, SetupDecision) {
   struct Case {
-    const char *name; SetupFacts facts; SetupOrigin origin;
-    std::string_view firstClass; bool push; std::string_view notice; std::string_view userPage;
+    const char *name;
+    SetupFacts facts;
+    SetupOrigin origin;
+    std::string_view firstClass;
+    bool push;
+    std::string_view notice;
+    std::string_view userPage;
   };
   const PasscodeCharacteristics six{true, false, 6}, five{true, false, 5};
   const Case cases[] = {
-      {"face id, ios 16", {true, std::nullopt, true, true, 40, false}, SetupOrigin::Prompt,
-       "PSUIPearlPasscodeController", false, kIOS16Notice.english, ""},
-      {"face id, ios 15", {true, std::nullopt, true, false, 40, false}, SetupOrigin::Prompt,
-       "PSUIPearlPasscodeController", true, "", ""},
-      {"ios 14 with loader", {true, std::nullopt, true, false, 40, true}, SetupOrigin::Prompt,
-       "PSUIPearlPasscodeController", true, kLoaderNotice.english, ""},
-      {"loader but square corners", {false, std::nullopt, true, false, 0, true}, SetupOrigin::Prompt,
-       "PSMesaSettingsController", true, "", ""},
-      {"loader before ios 14", {false, std::nullopt, false, false, 40, true}, SetupOrigin::Prompt,
-       "PSMesaSettingsController", true, "", ""},
-      {"alert view on ios 16", {true, std::nullopt, true, true, 40, true}, SetupOrigin::AlertViewButton,
-       "PSUIPearlPasscodeController", true, "", ""},
-      {"six digits", {true, six, true, true, 40, true}, SetupOrigin::Prompt, "", false, "",
+      {"face id, ios 16",
+       {true, std::nullopt, true, true, 40, false},
+       SetupOrigin::Prompt,
+       "PSUIPearlPasscodeController",
+       false,
+       kIOS16Notice.english,
+       ""},
+      {"face id, ios 15",
+       {true, std::nullopt, true, false, 40, false},
+       SetupOrigin::Prompt,
+       "PSUIPearlPasscodeController",
+       true,
+       "",
+       ""},
+      {"ios 14 with loader",
+       {true, std::nullopt, true, false, 40, true},
+       SetupOrigin::Prompt,
+       "PSUIPearlPasscodeController",
+       true,
+       kLoaderNotice.english,
+       ""},
+      {"loader but square corners",
+       {false, std::nullopt, true, false, 0, true},
+       SetupOrigin::Prompt,
+       "PSMesaSettingsController",
+       true,
+       "",
+       ""},
+      {"loader before ios 14",
+       {false, std::nullopt, false, false, 40, true},
+       SetupOrigin::Prompt,
+       "PSMesaSettingsController",
+       true,
+       "",
+       ""},
+      {"alert view on ios 16",
+       {true, std::nullopt, true, true, 40, true},
+       SetupOrigin::AlertViewButton,
+       "PSUIPearlPasscodeController",
+       true,
+       "",
+       ""},
+      {"six digits",
+       {true, six, true, true, 40, true},
+       SetupOrigin::Prompt,
+       "",
+       false,
+       "",
        "TessarinUserPasscodeController"},
-      {"five digits", {false, five, false, false, 0, false}, SetupOrigin::Prompt, "", false, "",
+      {"five digits",
+       {false, five, false, false, 0, false},
+       SetupOrigin::Prompt,
+       "",
+       false,
+       "",
        "TessarinUserComplexPasscodeController"},
   };
   for (const Case &c : cases) {
@@ -91,9 +140,9 @@ TEST(RootBehaviour, SetupDecision) {
     EXPECT_EQ(d.userPasscodeControllerClass, c.userPage) << c.name;
   }
   const SetupDecision touch = setupDecision({false, std::nullopt, false, false, 0, false}, SetupOrigin::Prompt);
-  EXPECT_EQ(touch.systemPageClasses, (std::vector<std::string_view>{"PSMesaSettingsController",
-                                                                    "PSTouchIDPasscodeController",
-                                                                    "PSUITouchIDPasscodeController"}));
+  EXPECT_EQ(touch.systemPageClasses,
+            (std::vector<std::string_view>{"PSMesaSettingsController", "PSTouchIDPasscodeController",
+                                           "PSUITouchIDPasscodeController"}));
   const SetupDecision loader = setupDecision({true, std::nullopt, true, false, 40, true}, SetupOrigin::Prompt);
   EXPECT_EQ(loader.noticeFrom, NoticeFrom::PushedPage);
   ASSERT_EQ(loader.notice->buttons.size(), 1u);
@@ -102,11 +151,20 @@ TEST(RootBehaviour, SetupDecision) {
 }
 
 TEST(RootBehaviour, AlertViewButtons) {
-  struct Case { bool sensor; long long index; Effect effect; };
+  struct Case {
+    bool sensor;
+    long long index;
+    Effect effect;
+  };
   const Case cases[] = {
-      {false, 0, Effect::Nothing}, {false, 1, Effect::PushPasscodeSettings}, {false, 2, Effect::Nothing},
-      {true, 0, Effect::Nothing},  {true, 1, Effect::SetUpDeviceAuthentication},
-      {true, 2, Effect::PushPasscodeSettings}, {true, 3, Effect::Nothing}, {true, -1, Effect::Nothing},
+      {false, 0, Effect::Nothing},
+      {false, 1, Effect::PushPasscodeSettings},
+      {false, 2, Effect::Nothing},
+      {true, 0, Effect::Nothing},
+      {true, 1, Effect::SetUpDeviceAuthentication},
+      {true, 2, Effect::PushPasscodeSettings},
+      {true, 3, Effect::Nothing},
+      {true, -1, Effect::Nothing},
   };
   for (const Case &c : cases) EXPECT_EQ(alertViewButtonEffect(c.sensor, c.index), c.effect) << c.sensor << c.index;
 }

@@ -25,11 +25,25 @@ DeviceFacts touchIdPhone() { return {true, false, false, true, true, true}; }
 DeviceFacts faceIdPhone() { return {true, true, false, true, true, true}; }
 DeviceFacts iPadWithoutSensor() { return {false, false, true, true, true, true}; }
 
-const std::vector<std::string> kPlist = {
-    "", "EXTRAS", "UNLOCK_WITH_TOUCHID", "CIRCLE_COLOR", "VIBRATE_ON_ERROR", "",
-    "APPLICATIONS_KEY", "APPLICATIONS_NOTIFICATIONS_KEY", "FLIPSWITCHES", "CONTROLCENTER", "CCSETTINGS_KEY",
-    "CALLER_ID_PROTECTION_KEY", "", "PASSCODE_OPTIONS", "TRUSTED_WIFI_NETWORKS", "KEEP_SESSION", "CRASH_LOGS",
-    "", "RESET_ALL"};
+const std::vector<std::string> kPlist = {"",
+                                         "EXTRAS",
+                                         "UNLOCK_WITH_TOUCHID",
+                                         "CIRCLE_COLOR",
+                                         "VIBRATE_ON_ERROR",
+                                         "",
+                                         "APPLICATIONS_KEY",
+                                         "APPLICATIONS_NOTIFICATIONS_KEY",
+                                         "FLIPSWITCHES",
+                                         "CONTROLCENTER",
+                                         "CCSETTINGS_KEY",
+                                         "CALLER_ID_PROTECTION_KEY",
+                                         "",
+                                         "PASSCODE_OPTIONS",
+                                         "TRUSTED_WIFI_NETWORKS",
+                                         "KEEP_SESSION",
+                                         "CRASH_LOGS",
+                                         "",
+                                         "RESET_ALL"};
 
 std::vector<std::string> keptIds(const DeviceFacts &device, FakeFiles &files) {
   std::vector<std::string> kept;
@@ -55,10 +69,15 @@ TEST(RootRows, EarlyExits) {
 }
 
 TEST(RootRows, WarningRow) {
-  struct Case { bool grace, trusted, inPlist; std::optional<double> height; };
+  struct Case {
+    bool grace, trusted, inPlist;
+    std::optional<double> height;
+  };
   const Case cases[] = {
       // The grace and network texts alone are checked in the app.
-      {false, false, false, std::nullopt}, {true, true, false, 70} /* grace wins */, {true, true, true, std::nullopt},
+      {false, false, false, std::nullopt},
+      {true, true, false, 70} /* grace wins */,
+      {true, true, true, std::nullopt},
   };
   for (const Case &c : cases) {
     const auto row = warningRow(c.grace, c.trusted, c.inPlist);
@@ -70,13 +89,21 @@ TEST(RootRows, WarningRow) {
 }
 
 TEST(RootRows, DeviceDependentRows) {
-  struct Case { const char *name; DeviceFacts device; std::vector<std::string> gone, kept; };
+  struct Case {
+    const char *name;
+    DeviceFacts device;
+    std::vector<std::string> gone, kept;
+  };
   const Case cases[] = {
       // Phones and iPads with a sensor are checked in the app; these devices it cannot run.
-      {"ipad without sensor", iPadWithoutSensor(),
+      {"ipad without sensor",
+       iPadWithoutSensor(),
        {"EXTRAS", "UNLOCK_WITH_TOUCHID", "CIRCLE_COLOR", "VIBRATE_ON_ERROR", "CALLER_ID_PROTECTION_KEY"},
        {"PASSCODE_OPTIONS", "RESET_ALL"}},
-      {"before ios 11", {true, false, false, true, true, false}, {}, {"UNLOCK_WITH_TOUCHID", "APPLICATIONS_NOTIFICATIONS_KEY"}},
+      {"before ios 11",
+       {true, false, false, true, true, false},
+       {},
+       {"UNLOCK_WITH_TOUCHID", "APPLICATIONS_NOTIFICATIONS_KEY"}},
       {"before ios 8", {true, false, false, false, false, false}, {"CALLER_ID_PROTECTION_KEY"}, {}},
   };
   for (const Case &c : cases) {
@@ -96,12 +123,12 @@ TEST(RootRows, ExtrasKeepTheirFooterBeforeIos11) {
 TEST(RootRows, ProbeOrderStopsAtFirstFound) {
   FakeFiles files;
   rowAction("CONTROLCENTER", touchIdPhone(), files);
-  EXPECT_EQ(files.probed, (std::vector<std::string>{
-                              "/bootstrap/Library/MobileSubstrate/DynamicLibraries/FlipControlCenter.dylib",
-                              "/var/jb/Library/MobileSubstrate/DynamicLibraries/FlipControlCenter.dylib",
-                              "/Library/MobileSubstrate/DynamicLibraries/FlipControlCenter.dylib",
-                              "/Library/MobileSubstrate/DynamicLibraries/CCSettings.dylib",
-                              "/var/jb/Library/MobileSubstrate/DynamicLibraries/CCSettings.dylib"}));
+  EXPECT_EQ(files.probed,
+            (std::vector<std::string>{"/bootstrap/Library/MobileSubstrate/DynamicLibraries/FlipControlCenter.dylib",
+                                      "/var/jb/Library/MobileSubstrate/DynamicLibraries/FlipControlCenter.dylib",
+                                      "/Library/MobileSubstrate/DynamicLibraries/FlipControlCenter.dylib",
+                                      "/Library/MobileSubstrate/DynamicLibraries/CCSettings.dylib",
+                                      "/var/jb/Library/MobileSubstrate/DynamicLibraries/CCSettings.dylib"}));
 
   files.probed.clear();
   files.present = {"/bootstrap/usr/lib/libflipswitch.dylib"};
@@ -114,8 +141,13 @@ TEST(RootRows, DeviceAuthRow) {
   const auto classes = [](std::string_view name) { return name == kTouchIdPasscodeControllerClass; };
   const auto noClasses = [](std::string_view) { return false; };
   struct Case {
-    const char *name; DeviceFacts device; std::optional<PasscodeCharacteristics> passcode; bool warning;
-    bool touchIdClass; std::string_view rowName, detail, action; std::size_t group;
+    const char *name;
+    DeviceFacts device;
+    std::optional<PasscodeCharacteristics> passcode;
+    bool warning;
+    bool touchIdClass;
+    std::string_view rowName, detail, action;
+    std::size_t group;
   };
   const Case cases[] = {
       {"4 digits", touchIdPhone(), PasscodeCharacteristics{true, false, 4}, false, true, "Touch ID", "",
@@ -128,10 +160,10 @@ TEST(RootRows, DeviceAuthRow) {
        "loadUserComplexPasswordController", 7},
       {"no passcode, face id", faceIdPhone(), std::nullopt, false, false, "Face ID & Passcode",
        "PSUIPearlPasscodeController", "", 7},
-      {"no passcode, touch id", touchIdPhone(), std::nullopt, true, true, "Touch ID", "PSTouchIDPasscodeController",
-       "", 9},
-      {"no passcode, old touch id", touchIdPhone(), std::nullopt, false, false, "Touch ID",
-       "PSMesaSettingsController", "", 7},
+      {"no passcode, touch id", touchIdPhone(), std::nullopt, true, true, "Touch ID", "PSTouchIDPasscodeController", "",
+       9},
+      {"no passcode, old touch id", touchIdPhone(), std::nullopt, false, false, "Touch ID", "PSMesaSettingsController",
+       "", 7},
   };
   for (const Case &c : cases) {
     const auto row = c.touchIdClass ? deviceAuthRow(c.device, c.passcode, c.warning, classes)

@@ -29,13 +29,11 @@ const char *const kUnknown = "ff:ff:ff:ff:ff:ff";
 
 TEST(TrustedNetworks, RowsFromRecords) {
   Value records = list({
-      record("Home", kRow, "secret"),
-      record("Hidden", kUnknown),
-      record(nullptr, kOther),             // no ssid
-      record("Nameless BSSID", nullptr),   // no bssid
-      Value::string("not a record"),
-      Value::dictionary({{"ssid", Value::integer(7)}, {"bssid", Value::string(kOther)}}),
-      Value::dictionary({{"ssid", Value::string("Odd password")}, {"bssid", Value::string(kOther)},
+      record("Home", kRow, "secret"), record("Hidden", kUnknown), record(nullptr, kOther),  // no ssid
+      record("Nameless BSSID", nullptr),                                                    // no bssid
+      Value::string("not a record"), Value::dictionary({{"ssid", Value::integer(7)}, {"bssid", Value::string(kOther)}}),
+      Value::dictionary({{"ssid", Value::string("Odd password")},
+                         {"bssid", Value::string(kOther)},
                          {"password", Value::integer(1234)}}),
       record("", ""),  // present, so a row, however little it says
   });
@@ -117,7 +115,8 @@ TEST(TrustedNetworks, SwitchingOffWalk) {
       {"third entry after a removal is looked at", list({B, C, A, E}), list({C, A})},
       {"first entry then end of list", list({B, C}), list({C})},
       {"no match", list({A, D}), list({A, D})},
-      {"non-dictionaries kept", list({Value::string("x"), B, Value::integer(1)}), list({Value::string("x"), Value::integer(1)})},
+      {"non-dictionaries kept", list({Value::string("x"), B, Value::integer(1)}),
+       list({Value::string("x"), Value::integer(1)})},
       {"nothing stored", Value::string("garbage"), list({})},
   };
   for (const Case &c : cases) EXPECT_EQ(untrustNetwork(&c.stored, kRow), c.expected) << c.name;

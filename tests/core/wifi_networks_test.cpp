@@ -27,14 +27,20 @@ std::vector<std::string> names(const std::vector<NetworkRecord> &records) {
 }  // namespace
 
 TEST(WiFiNetworks, Order) {
-  struct Case { const char *name; std::vector<PlatformNetwork> in; std::vector<std::string> out; };
+  struct Case {
+    const char *name;
+    std::vector<PlatformNetwork> in;
+    std::vector<std::string> out;
+  };
   const Case cases[] = {
       {"none", {}, {}},
       {"latest first", {net("old", 100), net("new", 900), net("mid", 500)}, {"new", "mid", "old"}},
-      {"never joined last", {net("never", std::nullopt), net("joined", 1), net("before", -50)},
+      {"never joined last",
+       {net("never", std::nullopt), net("joined", 1), net("before", -50)},
        {"joined", "never", "before"}},  // a date before the reference date sorts after "never"
       {"ties keep platform order", {net("b", 7), net("a", 7), net("c", 9), net("d", 7)}, {"c", "b", "a", "d"}},
-      {"unreadable date counts as never", {net("nan", std::nan("")), net("x", 3), net("never", std::nullopt)},
+      {"unreadable date counts as never",
+       {net("nan", std::nan("")), net("x", 3), net("never", std::nullopt)},
        {"x", "nan", "never"}},
   };
   for (const Case &c : cases) EXPECT_EQ(names(networkRecords(c.in)), c.out) << c.name;
@@ -62,11 +68,16 @@ TEST(WiFiNetworks, Trust) {
   const TrustedEntry unknown{std::string("ff:ff:ff:ff:ff:ff"), std::string("Hidden")};
   const TrustedEntry broken{std::nullopt, std::string("Office")};
   struct Case {
-    const char *name; std::vector<TrustedEntry> list; std::optional<std::string> current; bool trusted;
+    const char *name;
+    std::vector<TrustedEntry> list;
+    std::optional<std::string> current;
+    bool trusted;
   };
   const Case cases[] = {
-      {"bssid match, other ssid", {TrustedEntry{std::string("aa:aa:aa:aa:aa:aa"), std::string("Cafe")}},
-       std::string("aa:aa:aa:aa:aa:aa"), true},
+      {"bssid match, other ssid",
+       {TrustedEntry{std::string("aa:aa:aa:aa:aa:aa"), std::string("Cafe")}},
+       std::string("aa:aa:aa:aa:aa:aa"),
+       true},
       {"no match", {office}, std::string("bb:bb:bb:bb:bb:bb"), false},
       {"no current network", {office}, std::nullopt, false},
       {"entry without bssid", {broken}, std::string("aa:aa:aa:aa:aa:aa"), false},

@@ -4,14 +4,13 @@
 
 #include "ChildProcess.h"
 
-int main(int argc, char **argv)
-{
-    NSAutoreleasePool *pool = [[NSAutoreleasePool alloc] init];
-    int status = 0;
-    if (!RunChildHelperIfRequested(argc, argv, &status)) {
-        ::testing::InitGoogleTest(&argc, argv);
-        status = RUN_ALL_TESTS();
-    }
-    [pool release];
-    return status;
+int main(int argc, char **argv) {
+  NSAutoreleasePool *pool = [[NSAutoreleasePool alloc] init];
+  int status = 0;
+  if (!RunChildHelperIfRequested(argc, argv, &status)) {
+    ::testing::InitGoogleTest(&argc, argv);
+    status = RUN_ALL_TESTS();
+  }
+  [pool release];
+  return status;
 }

@@ -75,10 +75,14 @@ TEST_F(HostConsoleTest, CommandsThatCannotRunSayWhy) {
     const char *answer;
   };
   const Case cases[] = {
-      {"tap 999", "Choose a number from 1 to"},   {"tap x", "No row here is called \"x\"."},
-      {"frobnicate", "Unknown command"},          {"alert 1", "No alert is showing."},
-      {"type 1234", "no text field"},         {"cancel", "no bar button"},
-      {"switch 1 maybe", "Say on or off"},        {"wait soon", "Say how long"},
+      {"tap 999", "Choose a number from 1 to"},
+      {"tap x", "No row here is called \"x\"."},
+      {"frobnicate", "Unknown command"},
+      {"alert 1", "No alert is showing."},
+      {"type 1234", "no text field"},
+      {"cancel", "no bar button"},
+      {"switch 1 maybe", "Say on or off"},
+      {"wait soon", "Say how long"},
       {"flip 999", "Choose a number from 1 to"},
   };
   for (const Case &c : cases) {
@@ -217,7 +221,7 @@ TEST_F(HostConsoleTest, OpensTheSmallerPagesTypesAndPressesBarButtons) {
     EXPECT_TRUE(Contains(page, c.shows)) << page;
     if (std::string(c.row) != "Alert title") Run("back");
   }
-  EXPECT_TRUE(Contains(Run("press Done"), "This page has no bar button \"Done\".")) ;
+  EXPECT_TRUE(Contains(Run("press Done"), "This page has no bar button \"Done\"."));
   EXPECT_TRUE(Contains(Run("text 1 \"Locked\""), "\"Locked\""));
   std::string after = Run("press Save");
   EXPECT_TRUE(Contains(after, "Passcode options")) << after;  // back on the product's page

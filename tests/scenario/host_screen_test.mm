@@ -40,10 +40,10 @@ TEST(HostScreenWrap, LinesStayWithinTheWidthAndKeepEveryWord) {
     // Nothing is lost: the words come back in order (the double blank may fall at a break).
     NSString *back = [[NSString stringWithUTF8String:joined.c_str()]
         stringByTrimmingCharactersInSet:[NSCharacterSet whitespaceCharacterSet]];
-    NSArray *words = [[footer componentsSeparatedByString:@" "] filteredArrayUsingPredicate:
-                                                                    [NSPredicate predicateWithFormat:@"length > 0"]];
-    NSArray *again = [[back componentsSeparatedByString:@" "] filteredArrayUsingPredicate:
-                                                                  [NSPredicate predicateWithFormat:@"length > 0"]];
+    NSArray *words = [[footer componentsSeparatedByString:@" "]
+        filteredArrayUsingPredicate:[NSPredicate predicateWithFormat:@"length > 0"]];
+    NSArray *again = [[back componentsSeparatedByString:@" "]
+        filteredArrayUsingPredicate:[NSPredicate predicateWithFormat:@"length > 0"]];
     EXPECT_TRUE([words isEqualToArray:again]) << joined;
   }
   [pool release];

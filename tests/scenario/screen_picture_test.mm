@@ -33,7 +33,7 @@ struct Device {
 };
 
 class ScreenPictureTest : public HostConsoleFixture {
-protected:
+ protected:
   void OpenIn(const Device &device) {
     english_ = std::string(device.language) == "en";
     NSString *language = [NSString stringWithUTF8String:device.language];
@@ -64,16 +64,16 @@ protected:
       UIView *table = [[row cell] superview];
       if ([table isKindOfClass:[UITableView class]] && [(UITableView *)table dataSource] == (id)page)
         firstRowTop = fmin(firstRowTop, frame.origin.y);
-      bool whole = CGRectEqualToRect(CGRectIntegral([row visibleFrame]), CGRectIntegral(frame)) && frame.origin.y >= 0 &&
-                   CGRectGetMaxY(frame) <= screen.height;
+      bool whole = CGRectEqualToRect(CGRectIntegral([row visibleFrame]), CGRectIntegral(frame)) &&
+                   frame.origin.y >= 0 && CGRectGetMaxY(frame) <= screen.height;
       for (SimDrawnText *text in texts) {
         if ([text row] != (NSInteger)r || [[text text] length] == 0) continue;
         EXPECT_TRUE(Within([text frame], frame)) << "\"" << Utf8([text text]) << "\" at " << Describe([text frame])
                                                  << " outside its row " << Describe(frame);
         if (whole) {
-          EXPECT_TRUE(Within([text frame], [text clip])) << "\"" << Utf8([text text]) << "\" at "
-                                                          << Describe([text frame]) << " is clipped by "
-                                                          << Describe([text clip]);
+          EXPECT_TRUE(Within([text frame], [text clip]))
+              << "\"" << Utf8([text text]) << "\" at " << Describe([text frame]) << " is clipped by "
+              << Describe([text clip]);
         }
       }
       NSString *title = [row title];
@@ -96,7 +96,8 @@ protected:
     NSString *title = [picture title];
     bool titled = false;
     for (SimDrawnText *text in texts)
-      if ([[text text] isEqualToString:title] && [text row] < 0 && CGRectGetMaxY([text frame]) <= firstRowTop) titled = true;
+      if ([[text text] isEqualToString:title] && [text row] < 0 && CGRectGetMaxY([text frame]) <= firstRowTop)
+        titled = true;
     EXPECT_TRUE(titled) << "the page's title \"" << Utf8(title) << "\" is not in its bar";
   }
 
@@ -187,7 +188,11 @@ TEST_P(SwitchPictureOn, ASwitchThatIsOnShowsTheSystemGreen) {
       for (SimDrawnControl *control in [picture controls]) {
         if (![[control kind] isEqualToString:@"switch"] || !Within([control frame], [drawn frame])) continue;
         CGRect f = [control frame];
-        [picture getRed:&rgb[0] green:&rgb[1] blue:&rgb[2] alpha:NULL atPoint:CGPointMake(f.origin.x + 6, CGRectGetMidY(f))];
+        [picture getRed:&rgb[0]
+                  green:&rgb[1]
+                   blue:&rgb[2]
+                  alpha:NULL
+                atPoint:CGPointMake(f.origin.x + 6, CGRectGetMidY(f))];
         *tint = [(UISwitch *)[control view] onTintColor];
         return true;
       }
@@ -208,7 +213,8 @@ TEST_P(SwitchPictureOn, ASwitchThatIsOnShowsTheSystemGreen) {
   std::string answer = Run("switch 1 on");
   ASSERT_TRUE(trackColour(rgb, &tint)) << answer;
   EXPECT_TRUE(same(rgb, tint != nil ? tint : [UIColor systemGreenColor]))
-      << "an on switch shows " << rgb[0] << "," << rgb[1] << "," << rgb[2] << "\n" << answer;
+      << "an on switch shows " << rgb[0] << "," << rgb[1] << "," << rgb[2] << "\n"
+      << answer;
 }
 
 INSTANTIATE_TEST_SUITE_P(Devices, SwitchPictureOn,

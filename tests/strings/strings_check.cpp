@@ -53,9 +53,12 @@ void fault(const std::string &message) {
 std::string quoted(const std::string &text) {
   std::string out = "\"";
   for (char c : text) {
-    if (c == '\n') out += "\\n";
-    else if (c == '"') out += "\\\"";
-    else out += c;
+    if (c == '\n')
+      out += "\\n";
+    else if (c == '"')
+      out += "\\\"";
+    else
+      out += c;
   }
   out += "\"";
   if (out.size() > 90) out = out.substr(0, 80) + "...\"";
@@ -212,11 +215,22 @@ std::optional<Table> parseStrings(const std::string &text, std::string &why) {
       if (i >= text.size()) return false;
       const char e = text[i++];
       switch (e) {
-        case 'n': out += '\n'; break;
-        case 't': out += '\t'; break;
-        case 'r': out += '\r'; break;
-        case '"': case '\\': case '\'': out += e; break;
-        case 'U': case 'u': {
+        case 'n':
+          out += '\n';
+          break;
+        case 't':
+          out += '\t';
+          break;
+        case 'r':
+          out += '\r';
+          break;
+        case '"':
+        case '\\':
+        case '\'':
+          out += e;
+          break;
+        case 'U':
+        case 'u': {
           if (i + 4 > text.size()) return false;
           const std::string hex = text.substr(i, 4);
           if (hex.find_first_not_of("0123456789abcdefABCDEF") != std::string::npos) return false;
@@ -224,7 +238,8 @@ std::optional<Table> parseStrings(const std::string &text, std::string &why) {
           i += 4;
           break;
         }
-        default: return false;
+        default:
+          return false;
       }
     }
     if (i >= text.size()) return false;
@@ -238,7 +253,8 @@ std::optional<Table> parseStrings(const std::string &text, std::string &why) {
     if (!quotedString(key)) return fail("a key that is not a complete quoted string");
     if (!skip() || i >= text.size() || text[i] != '=') return fail("no \"=\" after " + quoted(key));
     ++i;
-    if (!skip() || !quotedString(value)) return fail("the value of " + quoted(key) + " is not a complete quoted string");
+    if (!skip() || !quotedString(value))
+      return fail("the value of " + quoted(key) + " is not a complete quoted string");
     if (!skip() || i >= text.size() || text[i] != ';') return fail("no \";\" after the value of " + quoted(key));
     ++i;
     if (table.values.count(key)) return fail("the key " + quoted(key) + " twice");
@@ -254,7 +270,8 @@ using Placeholders = std::map<int, std::string>;
 // The placeholders of a format; nothing (with `why`) when positional and plain ones mix or a
 // position is given twice with different kinds.
 std::optional<Placeholders> placeholders(const std::string &text, std::string &why) {
-  static const std::regex spec(R"(%(?:(\d+)\$)?[-+ #0']*(?:\d+|\*)?(?:\.(?:\d+|\*))?(hh|h|ll|l|q|L|z|t|j)?([@dDiuUxXoOfFeEgGcCsSpaA%]))");
+  static const std::regex spec(
+      R"(%(?:(\d+)\$)?[-+ #0']*(?:\d+|\*)?(?:\.(?:\d+|\*))?(hh|h|ll|l|q|L|z|t|j)?([@dDiuUxXoOfFeEgGcCsSpaA%]))");
   Placeholders found;
   int next = 1;
   bool positional = false, plain = false;
@@ -263,12 +280,18 @@ std::optional<Placeholders> placeholders(const std::string &text, std::string &w
     const std::string conversion = m[3];
     if (conversion == "%") continue;
     std::string kind;
-    if (conversion == "@") kind = "object";
-    else if (std::string("dDiuUxXoOc").find(conversion) != std::string::npos) kind = "integer";
-    else if (std::string("fFeEgGaA").find(conversion) != std::string::npos) kind = "floating";
-    else if (conversion == "s" || conversion == "S") kind = "C string";
-    else if (conversion == "C") kind = "unichar";
-    else kind = "pointer";
+    if (conversion == "@")
+      kind = "object";
+    else if (std::string("dDiuUxXoOc").find(conversion) != std::string::npos)
+      kind = "integer";
+    else if (std::string("fFeEgGaA").find(conversion) != std::string::npos)
+      kind = "floating";
+    else if (conversion == "s" || conversion == "S")
+      kind = "C string";
+    else if (conversion == "C")
+      kind = "unichar";
+    else
+      kind = "pointer";
     const std::string length = m[2];
     if (kind == "integer" && !length.empty()) kind = length + " integer";
     int position;
@@ -325,7 +348,8 @@ std::map<std::string, std::vector<std::string>> readKeptWords(const std::string 
     }
   }
   for (auto &[language, words] : kept)  // longest first, so "Tessarin Nova" goes before "Tessarin"
-    std::sort(words.begin(), words.end(), [](const std::string &a, const std::string &b) { return a.size() > b.size(); });
+    std::sort(words.begin(), words.end(),
+              [](const std::string &a, const std::string &b) { return a.size() > b.size(); });
   return kept;
 }
 
@@ -357,12 +381,15 @@ std::string unescapeLiterals(const std::string &literals) {
         continue;
       }
       const char e = body[++i];
-      if (e == 'n') out += '\n';
-      else if (e == 't') out += '\t';
+      if (e == 'n')
+        out += '\n';
+      else if (e == 't')
+        out += '\t';
       else if (e == 'x' && i + 2 < body.size()) {
         out += (char)std::stoi(body.substr(i + 1, 2), nullptr, 16);
         i += 2;
-      } else out += e;
+      } else
+        out += e;
     }
   }
   return out;
@@ -371,7 +398,8 @@ std::string unescapeLiterals(const std::string &literals) {
 void collectSourceFiles(const std::string &dir, std::vector<std::string> &files) {
   for (const std::string &name : listDirectory(dir)) {
     const std::string path = dir + "/" + name;
-    if (isDirectory(path)) collectSourceFiles(path, files);
+    if (isDirectory(path))
+      collectSourceFiles(path, files);
     else if (endsWith(name, ".mm") || endsWith(name, ".cpp") || endsWith(name, ".hpp") || endsWith(name, ".h"))
       files.push_back(path);
   }
@@ -395,8 +423,7 @@ std::map<std::string, CodeKey> keysInCode(const std::string &root) {
   std::vector<std::string> files;
   collectSourceFiles(root + "/prefs", files);
   // localizedString(@"KEY", @"English" ...) in the pages; the English only when it is a literal.
-  static const std::regex lookup(
-      R"re(localizedString\(\s*@"([A-Za-z0-9_]+)"\s*,\s*((?:@"(?:[^"\\]|\\.)*"\s*)+)?)re");
+  static const std::regex lookup(R"re(localizedString\(\s*@"([A-Za-z0-9_]+)"\s*,\s*((?:@"(?:[^"\\]|\\.)*"\s*)+)?)re");
   // {"KEY", "English"} in the core: a LocalText (or a bundle text of the passcode pages).
   static const std::regex text(R"re(\{\s*"([A-Z][A-Z0-9_]*)"\s*,\s*((?:"(?:[^"\\]|\\.)*"\s*)+)\})re");
   for (const std::string &file : files) {
@@ -455,7 +482,8 @@ int main(int argc, char **argv) {
   }
   const std::string root = argv[1];
   const std::string resources = argc == 3 ? argv[2] : root + "/resources";
-  const std::map<std::string, std::vector<std::string>> keptWords = readKeptWords(root + "/tests/strings/kept-words.txt");
+  const std::map<std::string, std::vector<std::string>> keptWords =
+      readKeptWords(root + "/tests/strings/kept-words.txt");
 
   // Every table of every language, parsed.
   std::map<std::string, std::map<std::string, Table>> languages;  // language -> table file -> table
@@ -506,7 +534,8 @@ int main(int argc, char **argv) {
     const std::string name = file.substr(0, file.size() - 6);
     std::optional<std::string> bytes = readFile(resources + "/" + file);
     std::optional<Value> plist =
-        bytes ? tessarin::plist::readPlist(reinterpret_cast<const uint8_t *>(bytes->data()), bytes->size()) : std::nullopt;
+        bytes ? tessarin::plist::readPlist(reinterpret_cast<const uint8_t *>(bytes->data()), bytes->size())
+              : std::nullopt;
     if (!plist) {
       fault(file + " does not parse as a property list");
       continue;
@@ -519,13 +548,15 @@ int main(int argc, char **argv) {
       fault("en: there is no " + name + ".strings for the texts of " + file);
     } else {
       for (const std::string &text : texts)
-        if (!table->second.values.count(text)) fault("en: " + name + ".strings lacks " + file + "'s text " + quoted(text));
+        if (!table->second.values.count(text))
+          fault("en: " + name + ".strings lacks " + file + "'s text " + quoted(text));
     }
     if (std::find(std::begin(kPlistsRenamedById), std::end(kPlistsRenamedById), name) != std::end(kPlistsRenamedById) &&
         localizable != nullptr)
       for (const std::string &id : ids)
         if (!localizable->values.count(id))
-          fault("en: Localizable.strings lacks the key \"" + id + "\" of a row of " + file + " (renamed by identifier)");
+          fault("en: Localizable.strings lacks the key \"" + id + "\" of a row of " + file +
+                " (renamed by identifier)");
   }
 
   // 3-5. Every other language against the English.
@@ -535,7 +566,8 @@ int main(int argc, char **argv) {
     if (keptWords.count(language)) {
       const auto &own = keptWords.at(language);
       kept.insert(kept.end(), own.begin(), own.end());
-      std::sort(kept.begin(), kept.end(), [](const std::string &a, const std::string &b) { return a.size() > b.size(); });
+      std::sort(kept.begin(), kept.end(),
+                [](const std::string &a, const std::string &b) { return a.size() > b.size(); });
     }
     for (const auto &[file, englishTable] : english) {
       auto found = tables.find(file);
@@ -552,7 +584,8 @@ int main(int argc, char **argv) {
         }
         const std::string &translated = value->second;
         if (englishValue.empty()) {
-          if (!translated.empty()) fault(language + ": " + file + " gives " + quoted(key) + " a text; the English is empty");
+          if (!translated.empty())
+            fault(language + ": " + file + " gives " + quoted(key) + " a text; the English is empty");
           continue;
         }
         if (translated.empty()) {
@@ -562,7 +595,8 @@ int main(int argc, char **argv) {
         std::string why;
         std::optional<Placeholders> want = placeholders(englishValue, why);
         std::optional<Placeholders> have = placeholders(translated, why);
-        if (!have) fault(language + ": " + file + " " + quoted(key) + ": " + why);
+        if (!have)
+          fault(language + ": " + file + " " + quoted(key) + ": " + why);
         else if (want && *want != *have)
           fault(language + ": " + file + " " + quoted(key) + " has the placeholders " + describe(*have) +
                 "; the English has " + describe(*want));
@@ -570,7 +604,8 @@ int main(int argc, char **argv) {
           fault(language + ": " + file + " leaves " + quoted(key) + " in English: " + quoted(translated));
       }
       for (const auto &[key, value] : table.entries)
-        if (!englishTable.values.count(key)) fault(language + ": " + file + " has the key " + quoted(key) + ", English has not");
+        if (!englishTable.values.count(key))
+          fault(language + ": " + file + " has the key " + quoted(key) + ", English has not");
     }
     for (const auto &[file, table] : tables)
       if (!english.count(file)) fault(language + ": " + file + " is not one of the English tables");
@@ -588,8 +623,8 @@ int main(int argc, char **argv) {
         if (englishValue.find(englishPhrase->second) == std::string::npos) continue;
         auto value = tables.at(rule.table).values.find(key);
         if (value != tables.at(rule.table).values.end() && value->second.find(phrase->second) == std::string::npos)
-          fault(language + ": " + rule.table + " " + quoted(key) + " does not hold the phrase " + quoted(phrase->second) +
-                " of \"" + rule.phraseKey + "\", which the code replaces in it");
+          fault(language + ": " + rule.table + " " + quoted(key) + " does not hold the phrase " +
+                quoted(phrase->second) + " of \"" + rule.phraseKey + "\", which the code replaces in it");
       }
     }
   }
@@ -597,9 +632,10 @@ int main(int argc, char **argv) {
   size_t keys = 0;
   for (const auto &[file, table] : english) keys += table.entries.size();
   if (gFaults == 0) {
-    std::printf("strings check: %zu languages besides English, %zu tables, %zu keys in each language: all there, all "
-                "translated\n",
-                languages.size() - 1, english.size(), keys);
+    std::printf(
+        "strings check: %zu languages besides English, %zu tables, %zu keys in each language: all there, all "
+        "translated\n",
+        languages.size() - 1, english.size(), keys);
     return 0;
   }
   std::printf("strings check: %d fault%s\n", gFaults, gFaults == 1 ? "" : "s");

@@ -12,14 +12,14 @@
 using ChildHelper = int (*)(int argc, char **argv);  // argv[0] is the helper name
 
 struct ChildHelperRegistration {
-    ChildHelperRegistration(const char *name, ChildHelper fn);
+  ChildHelperRegistration(const char *name, ChildHelper fn);
 };
 
 // Defines a helper: CHILD_HELPER(writePrefs) { ... return 0; }  (argc/argv available)
-#define CHILD_HELPER(name)                                                     \
-    static int name(int argc, char **argv);                                    \
-    static ChildHelperRegistration name##Registration(#name, name);            \
-    static int name(int argc, char **argv)
+#define CHILD_HELPER(name)                                        \
+  static int name(int argc, char **argv);                         \
+  static ChildHelperRegistration name##Registration(#name, name); \
+  static int name(int argc, char **argv)
 
 // Call first thing in main: when the process was started as a child, runs the helper and
 // returns true with its exit status in *status. A child may also be named by the

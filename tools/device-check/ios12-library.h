@@ -11,8 +11,7 @@
 #if defined(__cplusplus)
 #include <__config>
 
-#define TESSARIN_IOS12_UNAVAILABLE(since) \
-    __attribute__((unavailable("not in the C++ library of iOS 12 (" since ")")))
+#define TESSARIN_IOS12_UNAVAILABLE(since) __attribute__((unavailable("not in the C++ library of iOS 12 (" since ")")))
 
 #undef _LIBCPP_INTRODUCED_IN_LLVM_9
 #define _LIBCPP_INTRODUCED_IN_LLVM_9 0

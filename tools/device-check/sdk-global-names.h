@@ -26,16 +26,31 @@ typedef int64_t SInt64;
 typedef unsigned char Boolean;
 typedef float Float32;
 typedef double Float64;
-struct Float80 { SInt16 exp; UInt16 man[4]; };
+struct Float80 {
+  SInt16 exp;
+  UInt16 man[4];
+};
 typedef struct Float80 Float80;
-struct Float96 { SInt16 exp[2]; UInt16 man[4]; };
+struct Float96 {
+  SInt16 exp[2];
+  UInt16 man[4];
+};
 typedef struct Float96 Float96;
-struct Float32Point { Float32 x; Float32 y; };
+struct Float32Point {
+  Float32 x;
+  Float32 y;
+};
 typedef struct Float32Point Float32Point;
-struct wide { UInt32 lo; SInt32 hi; };
+struct wide {
+  UInt32 lo;
+  SInt32 hi;
+};
 typedef struct wide wide;
 typedef wide *WidePtr;
-struct UnsignedWide { UInt32 lo; UInt32 hi; };
+struct UnsignedWide {
+  UInt32 lo;
+  UInt32 hi;
+};
 typedef struct UnsignedWide UnsignedWide;
 typedef UnsignedWide *UnsignedWidePtr;
 typedef struct wide extended80;
@@ -111,18 +126,37 @@ typedef const unsigned char *ConstStr27Param;
 typedef const unsigned char *ConstStr15Param;
 typedef ConstStr63Param ConstStrFileNameParam;
 
-struct ProcessSerialNumber { UInt32 highLongOfPSN; UInt32 lowLongOfPSN; };
+struct ProcessSerialNumber {
+  UInt32 highLongOfPSN;
+  UInt32 lowLongOfPSN;
+};
 typedef struct ProcessSerialNumber ProcessSerialNumber;
 typedef ProcessSerialNumber *ProcessSerialNumberPtr;
-struct Point { short v; short h; };
+struct Point {
+  short v;
+  short h;
+};
 typedef struct Point Point;
 typedef Point *PointPtr;
-struct Rect { short top; short left; short bottom; short right; };
+struct Rect {
+  short top;
+  short left;
+  short bottom;
+  short right;
+};
 typedef struct Rect Rect;
 typedef Rect *RectPtr;
-struct FixedPoint { Fixed x; Fixed y; };
+struct FixedPoint {
+  Fixed x;
+  Fixed y;
+};
 typedef struct FixedPoint FixedPoint;
-struct FixedRect { Fixed left; Fixed top; Fixed right; Fixed bottom; };
+struct FixedRect {
+  Fixed left;
+  Fixed top;
+  Fixed right;
+  Fixed bottom;
+};
 typedef struct FixedRect FixedRect;
 typedef short CharParameter;
 typedef unsigned char Style;
@@ -133,15 +167,32 @@ typedef SInt32 TimeScale;
 typedef wide CompTimeValue;
 typedef SInt64 TimeValue64;
 typedef struct TimeBaseRecord *TimeBase;
-struct TimeRecord { CompTimeValue value; TimeScale scale; TimeBase base; };
+struct TimeRecord {
+  CompTimeValue value;
+  TimeScale scale;
+  TimeBase base;
+};
 typedef struct TimeRecord TimeRecord;
-struct NumVersion { UInt8 nonRelRev; UInt8 stage; UInt8 minorAndBugRev; UInt8 majorRev; };
+struct NumVersion {
+  UInt8 nonRelRev;
+  UInt8 stage;
+  UInt8 minorAndBugRev;
+  UInt8 majorRev;
+};
 typedef struct NumVersion NumVersion;
-union NumVersionVariant { NumVersion parts; UInt32 whole; };
+union NumVersionVariant {
+  NumVersion parts;
+  UInt32 whole;
+};
 typedef union NumVersionVariant NumVersionVariant;
 typedef NumVersionVariant *NumVersionVariantPtr;
 typedef NumVersionVariantPtr *NumVersionVariantHandle;
-struct VersRec { NumVersion numericVersion; short countryCode; Str255 shortVersion; Str255 reserved; };
+struct VersRec {
+  NumVersion numericVersion;
+  short countryCode;
+  Str255 shortVersion;
+  Str255 reserved;
+};
 typedef struct VersRec VersRec;
 typedef VersRec *VersRecPtr;
 typedef VersRecPtr *VersRecHndl;

@@ -60,9 +60,9 @@ const Switch *findSwitch(NSString *identifier) {
   if (templateBundle == nil || findSwitch(switchIdentifier) == nullptr) return nil;
   CGFloat scale = [UIScreen mainScreen].scale > 0 ? [UIScreen mainScreen].scale : 2;
   size_t px = (size_t)(29 * scale);
-  NSString *what = [NSString stringWithFormat:@"switch:%@ state %ld control %lu template %@", switchIdentifier,
-                                              (long)state, (unsigned long)controlState,
-                                              [[templateBundle bundlePath] lastPathComponent]];
+  NSString *what =
+      [NSString stringWithFormat:@"switch:%@ state %ld control %lu template %@", switchIdentifier, (long)state,
+                                 (unsigned long)controlState, [[templateBundle bundlePath] lastPathComponent]];
   CGImageRef image = SimCGImageCreate(px, px, what, nil);
   UIImage *result = [UIImage imageWithCGImage:image scale:scale orientation:UIImageOrientationUp];
   CGImageRelease(image);

@@ -4,11 +4,10 @@
 #include <CoreFoundation/CoreFoundation.h>
 #import "Simulator/SimInternal.h"
 
-extern "C" __attribute__((visibility("default"))) Boolean AXInvertColorsIsSystemWideDarkModeEnabled(void)
-{
-    NSAutoreleasePool *pool = [[NSAutoreleasePool alloc] init];
-    id value = SimProfileValue(@"darkMode", [NSNumber class]);
-    Boolean dark = value != nil && [value boolValue];
-    [pool release];
-    return dark;
+extern "C" __attribute__((visibility("default"))) Boolean AXInvertColorsIsSystemWideDarkModeEnabled(void) {
+  NSAutoreleasePool *pool = [[NSAutoreleasePool alloc] init];
+  id value = SimProfileValue(@"darkMode", [NSNumber class]);
+  Boolean dark = value != nil && [value boolValue];
+  [pool release];
+  return dark;
 }

@@ -41,14 +41,20 @@ void appendElement(void *info, const CGPathElement *element) {
 // CoreGraphics' blend modes as cairo's operators (the Porter-Duff ones and the separable and
 // non-separable blends cairo shares with PDF).
 cairo_operator_t operatorFor(int mode) {
-  static const cairo_operator_t operators[] = {
-      CAIRO_OPERATOR_OVER,        CAIRO_OPERATOR_MULTIPLY,     CAIRO_OPERATOR_SCREEN,         CAIRO_OPERATOR_OVERLAY,
-      CAIRO_OPERATOR_DARKEN,      CAIRO_OPERATOR_LIGHTEN,      CAIRO_OPERATOR_COLOR_DODGE,    CAIRO_OPERATOR_COLOR_BURN,
-      CAIRO_OPERATOR_SOFT_LIGHT,  CAIRO_OPERATOR_HARD_LIGHT,   CAIRO_OPERATOR_DIFFERENCE,     CAIRO_OPERATOR_EXCLUSION,
-      CAIRO_OPERATOR_HSL_HUE,     CAIRO_OPERATOR_HSL_SATURATION, CAIRO_OPERATOR_HSL_COLOR,    CAIRO_OPERATOR_HSL_LUMINOSITY,
-      CAIRO_OPERATOR_CLEAR,       CAIRO_OPERATOR_SOURCE,       CAIRO_OPERATOR_IN,             CAIRO_OPERATOR_OUT,
-      CAIRO_OPERATOR_ATOP,        CAIRO_OPERATOR_DEST_OVER,    CAIRO_OPERATOR_DEST_IN,        CAIRO_OPERATOR_DEST_OUT,
-      CAIRO_OPERATOR_DEST_ATOP,   CAIRO_OPERATOR_XOR,          CAIRO_OPERATOR_MULTIPLY,       CAIRO_OPERATOR_ADD};
+  static const cairo_operator_t operators[] = {CAIRO_OPERATOR_OVER,        CAIRO_OPERATOR_MULTIPLY,
+                                               CAIRO_OPERATOR_SCREEN,      CAIRO_OPERATOR_OVERLAY,
+                                               CAIRO_OPERATOR_DARKEN,      CAIRO_OPERATOR_LIGHTEN,
+                                               CAIRO_OPERATOR_COLOR_DODGE, CAIRO_OPERATOR_COLOR_BURN,
+                                               CAIRO_OPERATOR_SOFT_LIGHT,  CAIRO_OPERATOR_HARD_LIGHT,
+                                               CAIRO_OPERATOR_DIFFERENCE,  CAIRO_OPERATOR_EXCLUSION,
+                                               CAIRO_OPERATOR_HSL_HUE,     CAIRO_OPERATOR_HSL_SATURATION,
+                                               CAIRO_OPERATOR_HSL_COLOR,   CAIRO_OPERATOR_HSL_LUMINOSITY,
+                                               CAIRO_OPERATOR_CLEAR,       CAIRO_OPERATOR_SOURCE,
+                                               CAIRO_OPERATOR_IN,          CAIRO_OPERATOR_OUT,
+                                               CAIRO_OPERATOR_ATOP,        CAIRO_OPERATOR_DEST_OVER,
+                                               CAIRO_OPERATOR_DEST_IN,     CAIRO_OPERATOR_DEST_OUT,
+                                               CAIRO_OPERATOR_DEST_ATOP,   CAIRO_OPERATOR_XOR,
+                                               CAIRO_OPERATOR_MULTIPLY,    CAIRO_OPERATOR_ADD};
   if (mode < 0 || (size_t)mode >= sizeof operators / sizeof operators[0]) return CAIRO_OPERATOR_OVER;
   return operators[mode];
 }
@@ -234,9 +240,8 @@ namespace {
 
 // A stable colour for a name.
 void colourForName(NSString *name, double rgb[3]) {
-  static const double palette[][3] = {{0.20, 0.60, 0.98}, {0.30, 0.78, 0.40}, {1.00, 0.58, 0.00},
-                                      {0.98, 0.26, 0.36}, {0.56, 0.36, 0.90}, {0.35, 0.35, 0.40},
-                                      {0.00, 0.70, 0.75}, {1.00, 0.75, 0.00}};
+  static const double palette[][3] = {{0.20, 0.60, 0.98}, {0.30, 0.78, 0.40}, {1.00, 0.58, 0.00}, {0.98, 0.26, 0.36},
+                                      {0.56, 0.36, 0.90}, {0.35, 0.35, 0.40}, {0.00, 0.70, 0.75}, {1.00, 0.75, 0.00}};
   unsigned hash = 5381;
   for (const char *s = [name UTF8String]; s != NULL && *s != '\0'; s++) hash = hash * 33 + (unsigned char)*s;
   const double *c = palette[hash % (sizeof palette / sizeof palette[0])];
@@ -268,8 +273,8 @@ cairo_surface_t *SimCGCreateNamedPicture(NSString *name, size_t width, size_t he
   cairo_close_path(cr);
   cairo_set_source_rgb(cr, rgb[0], rgb[1], rgb[2]);
   cairo_fill(cr);
-  NSString *shown = [[name componentsSeparatedByCharactersInSet:[NSCharacterSet characterSetWithCharactersInString:@".:"]]
-      lastObject];
+  NSString *shown = [[name
+      componentsSeparatedByCharactersInSet:[NSCharacterSet characterSetWithCharactersInString:@".:"]] lastObject];
   if ([shown length] == 0) shown = name;
   if ([shown length] > 0) {
     NSString *letter = [[shown substringToIndex:1] uppercaseString];

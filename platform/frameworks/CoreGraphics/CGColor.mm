@@ -8,7 +8,7 @@
 @interface _SimCGColorSpace : NSObject {
   int _model;
 }
-@property(nonatomic, assign) int model;
+@property (nonatomic, assign) int model;
 @end
 @implementation _SimCGColorSpace
 @synthesize model = _model;
@@ -19,8 +19,8 @@
   size_t _count;
   _SimCGColorSpace *_space;
 }
-@property(nonatomic, retain) _SimCGColorSpace *space;
-@property(nonatomic, assign) size_t count;
+@property (nonatomic, retain) _SimCGColorSpace *space;
+@property (nonatomic, assign) size_t count;
 - (CGFloat *)components;
 @end
 @implementation _SimCGColor

@@ -16,11 +16,11 @@
   CGMutablePathRef _path;
   SimCGPixels *_pixels;
 }
-@property(nonatomic, readonly) NSMutableArray *operations;
-@property(nonatomic, assign) CGSize size;
-@property(nonatomic, assign) CGFloat scale;
-@property(nonatomic, assign) CGAffineTransform ctm;
-@property(nonatomic, assign) SimCGPixels *pixels;  // owned
+@property (nonatomic, readonly) NSMutableArray *operations;
+@property (nonatomic, assign) CGSize size;
+@property (nonatomic, assign) CGFloat scale;
+@property (nonatomic, assign) CGAffineTransform ctm;
+@property (nonatomic, assign) SimCGPixels *pixels;  // owned
 - (std::vector<CGAffineTransform> &)stack;
 - (CGMutablePathRef)path;
 - (void)clearPath;
@@ -195,12 +195,8 @@ void CGContextTranslateCTM(CGContextRef c, CGFloat tx, CGFloat ty) {
 void CGContextScaleCTM(CGContextRef c, CGFloat sx, CGFloat sy) {
   CGContextConcatCTM(c, CGAffineTransformMakeScale(sx, sy));
 }
-void CGContextRotateCTM(CGContextRef c, CGFloat angle) {
-  CGContextConcatCTM(c, CGAffineTransformMakeRotation(angle));
-}
-CGAffineTransform CGContextGetCTM(CGContextRef c) {
-  return c ? ((_SimCGContext *)c).ctm : CGAffineTransformIdentity;
-}
+void CGContextRotateCTM(CGContextRef c, CGFloat angle) { CGContextConcatCTM(c, CGAffineTransformMakeRotation(angle)); }
+CGAffineTransform CGContextGetCTM(CGContextRef c) { return c ? ((_SimCGContext *)c).ctm : CGAffineTransformIdentity; }
 void CGContextBeginPath(CGContextRef c) {
   if (c) [(_SimCGContext *)c clearPath];
 }
@@ -230,7 +226,10 @@ void CGContextClip(CGContextRef c) { usePath(c, @"clip", SimCGPixels::kClip); }
 void CGContextFillPath(CGContextRef c) { usePath(c, @"fill", SimCGPixels::kFill); }
 void CGContextStrokePath(CGContextRef c) { usePath(c, @"stroke", SimCGPixels::kStroke); }
 void CGContextDrawPath(CGContextRef c, CGPathDrawingMode mode) {
-  usePath(c, mode == kCGPathStroke ? @"stroke" : mode == kCGPathFill || mode == kCGPathEOFill ? @"fill" : @"fillStroke",
+  usePath(c,
+          mode == kCGPathStroke                          ? @"stroke"
+          : mode == kCGPathFill || mode == kCGPathEOFill ? @"fill"
+                                                         : @"fillStroke",
           mode == kCGPathStroke   ? SimCGPixels::kStroke
           : mode == kCGPathFill   ? SimCGPixels::kFill
           : mode == kCGPathEOFill ? SimCGPixels::kEOFill
@@ -265,8 +264,8 @@ void CGContextFillEllipseInRect(CGContextRef c, CGRect rect) {
 void CGContextDrawImage(CGContextRef c, CGRect rect, CGImageRef image) {
   if (SimCGPixels *pixels = pixelsOf(c)) pixels->drawImage(rect, image, ((_SimCGContext *)c).ctm);
   NSString *info = SimCGImageDescription(image);
-  SimCGContextRecord(c, [NSString stringWithFormat:@"drawImage %@ %@", info ? info : @"(unnamed)",
-                                                   rectText(deviceRect(c, rect))]);
+  SimCGContextRecord(
+      c, [NSString stringWithFormat:@"drawImage %@ %@", info ? info : @"(unnamed)", rectText(deviceRect(c, rect))]);
 }
 
 }  // extern "C"

@@ -162,7 +162,9 @@ CGAffineTransform CGAffineTransformMake(CGFloat a, CGFloat b, CGFloat c, CGFloat
 CGAffineTransform CGAffineTransformMakeTranslation(CGFloat tx, CGFloat ty) {
   return CGAffineTransformMake(1, 0, 0, 1, tx, ty);
 }
-CGAffineTransform CGAffineTransformMakeScale(CGFloat sx, CGFloat sy) { return CGAffineTransformMake(sx, 0, 0, sy, 0, 0); }
+CGAffineTransform CGAffineTransformMakeScale(CGFloat sx, CGFloat sy) {
+  return CGAffineTransformMake(sx, 0, 0, sy, 0, 0);
+}
 CGAffineTransform CGAffineTransformMakeRotation(CGFloat angle) {
   CGFloat s = sin(angle), c = cos(angle);
   return CGAffineTransformMake(c, s, -s, c, 0, 0);

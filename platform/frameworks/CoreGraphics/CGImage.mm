@@ -19,15 +19,15 @@
   CGImageRef _iconSource;
   BOOL _decoded;
 }
-@property(nonatomic, assign) size_t width;
-@property(nonatomic, assign) size_t height;
-@property(nonatomic, copy) NSString *info;
-@property(nonatomic, copy) NSArray *operations;
-@property(nonatomic, copy) NSString *file;
-@property(nonatomic, retain) NSData *data;
-@property(nonatomic, assign) CGImageRef iconSource;  // retained by its setter
-@property(nonatomic, assign) cairo_surface_t *pixels;  // referenced by its setter
-@property(nonatomic, assign) BOOL decoded;
+@property (nonatomic, assign) size_t width;
+@property (nonatomic, assign) size_t height;
+@property (nonatomic, copy) NSString *info;
+@property (nonatomic, copy) NSArray *operations;
+@property (nonatomic, copy) NSString *file;
+@property (nonatomic, retain) NSData *data;
+@property (nonatomic, assign) CGImageRef iconSource;    // retained by its setter
+@property (nonatomic, assign) cairo_surface_t *pixels;  // referenced by its setter
+@property (nonatomic, assign) BOOL decoded;
 @end
 namespace {
 
@@ -127,9 +127,6 @@ cairo_surface_t *iconFrom(cairo_surface_t *source, size_t width, size_t height) 
 }
 @end
 
-
-
-
 extern "C" {
 
 CGImageRef SimCGImageCreate(size_t width, size_t height, NSString *description, NSArray *operations) {
@@ -142,9 +139,9 @@ CGImageRef SimCGImageCreate(size_t width, size_t height, NSString *description, 
 }
 CGImageRef SimCGImageCreateWithSurface(cairo_surface_t *surface, NSString *description, NSArray *operations) {
   if (surface == NULL) return SimCGImageCreate(0, 0, description, operations);
-  _SimCGImage *image = (_SimCGImage *)SimCGImageCreate((size_t)cairo_image_surface_get_width(surface),
-                                                       (size_t)cairo_image_surface_get_height(surface), description,
-                                                       operations);
+  _SimCGImage *image =
+      (_SimCGImage *)SimCGImageCreate((size_t)cairo_image_surface_get_width(surface),
+                                      (size_t)cairo_image_surface_get_height(surface), description, operations);
   [image setPixels:surface];
   return (CGImageRef)image;
 }

@@ -184,8 +184,8 @@ void CGPathAddPath(CGMutablePathRef path1, const CGAffineTransform *m, CGPathRef
   if (!path1 || !path2) return;
   std::vector<SimPathElement> src = [(_SimCGPath *)path2 elements];
   for (const SimPathElement &e : src) {
-    int n = e.type == kCGPathElementCloseSubpath ? 0
-            : e.type == kCGPathElementAddCurveToPoint ? 3
+    int n = e.type == kCGPathElementCloseSubpath          ? 0
+            : e.type == kCGPathElementAddCurveToPoint     ? 3
             : e.type == kCGPathElementAddQuadCurveToPoint ? 2
                                                           : 1;
     addElement(path1, e.type, m, e.points, n);
@@ -228,8 +228,8 @@ CGRect CGPathGetBoundingBox(CGPathRef path) {
   bool any = false;
   CGFloat minX = 0, minY = 0, maxX = 0, maxY = 0;
   for (const SimPathElement &e : [(_SimCGPath *)path elements]) {
-    int n = e.type == kCGPathElementCloseSubpath ? 0
-            : e.type == kCGPathElementAddCurveToPoint ? 3
+    int n = e.type == kCGPathElementCloseSubpath          ? 0
+            : e.type == kCGPathElementAddCurveToPoint     ? 3
             : e.type == kCGPathElementAddQuadCurveToPoint ? 2
                                                           : 1;
     for (int i = 0; i < n; ++i) {
@@ -284,8 +284,8 @@ NSString *SimCGPathDescription(CGPathRef path) {
                                                     e.points[1].y]];
         break;
       case kCGPathElementAddCurveToPoint:
-        [parts addObject:[NSString stringWithFormat:@"C %g %g %g %g %g %g", e.points[0].x, e.points[0].y,
-                                                    e.points[1].x, e.points[1].y, e.points[2].x, e.points[2].y]];
+        [parts addObject:[NSString stringWithFormat:@"C %g %g %g %g %g %g", e.points[0].x, e.points[0].y, e.points[1].x,
+                                                    e.points[1].y, e.points[2].x, e.points[2].y]];
         break;
       case kCGPathElementCloseSubpath:
         [parts addObject:@"Z"];

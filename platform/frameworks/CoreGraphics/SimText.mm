@@ -53,9 +53,8 @@ CGRect deviceBox(cairo_t *cr, double x0, double y0, double x1, double y1) {
 // The system font's tracking by size (points), as the platform's typography tables give it:
 // text sizes are set a little tighter than the face's own spacing, large titles looser.
 double trackingFor(double size) {
-  static const double table[][2] = {{11, 0.06}, {12, 0},     {13, -0.08}, {14, -0.15}, {15, -0.24},
-                                    {16, -0.31}, {17, -0.43}, {20, -0.45}, {22, -0.26}, {24, 0.07},
-                                    {28, 0.38},  {34, 0.40}};
+  static const double table[][2] = {{11, 0.06},  {12, 0},     {13, -0.08}, {14, -0.15}, {15, -0.24}, {16, -0.31},
+                                    {17, -0.43}, {20, -0.45}, {22, -0.26}, {24, 0.07},  {28, 0.38},  {34, 0.40}};
   const size_t n = sizeof table / sizeof table[0];
   if (size <= table[0][0]) return table[0][1];
   for (size_t i = 1; i < n; i++) {
@@ -67,9 +66,7 @@ double trackingFor(double size) {
   return table[n - 1][1];
 }
 
-NSArray *rectArray(CGRect r) {
-  return @[ @(r.origin.x), @(r.origin.y), @(r.size.width), @(r.size.height) ];
-}
+NSArray *rectArray(CGRect r) { return @[ @(r.origin.x), @(r.origin.y), @(r.size.width), @(r.size.height) ]; }
 
 }  // namespace
 
@@ -82,8 +79,8 @@ SimTextFont SimTextFontNamed(NSString *name, CGFloat size) {
   struct {
     const char *word;
     int weight;
-  } weights[] = {{"ultralight", 200}, {"thin", 100},    {"light", 300}, {"medium", 500},
-                 {"semibold", 600},   {"demibold", 600}, {"bold", 700},  {"heavy", 800}, {"black", 900}};
+  } weights[] = {{"ultralight", 200}, {"thin", 100}, {"light", 300}, {"medium", 500}, {"semibold", 600},
+                 {"demibold", 600},   {"bold", 700}, {"heavy", 800}, {"black", 900}};
   // "semibold" contains "bold": the longest match wins.
   size_t matched = 0;
   for (size_t i = 0; i < sizeof weights / sizeof weights[0]; i++) {
@@ -93,8 +90,8 @@ SimTextFont SimTextFontNamed(NSString *name, CGFloat size) {
       matched = strlen(weights[i].word);
     }
   }
-  font.italic = [lower rangeOfString:@"italic"].location != NSNotFound ||
-                [lower rangeOfString:@"oblique"].location != NSNotFound;
+  font.italic =
+      [lower rangeOfString:@"italic"].location != NSNotFound || [lower rangeOfString:@"oblique"].location != NSNotFound;
   font.monospace = [lower rangeOfString:@"courier"].location != NSNotFound ||
                    [lower rangeOfString:@"menlo"].location != NSNotFound ||
                    [lower rangeOfString:@"mono"].location != NSNotFound;
@@ -105,7 +102,7 @@ PangoLayout *SimTextCreateLayout(NSString *text, SimTextFont font, CGFloat width
                                  BOOL truncate) {
   PangoLayout *layout = pango_layout_new(sharedContext());
   // The system font switches to its display cut at 20 points, as the device's does.
-  const char *families = font.monospace ? "DejaVu Sans Mono,Noto Sans Mono,monospace"
+  const char *families = font.monospace    ? "DejaVu Sans Mono,Noto Sans Mono,monospace"
                          : font.size >= 20 ? "Inter Display,Inter,Noto Sans,Noto Sans CJK JP"
                                            : "Inter,Noto Sans,Noto Sans CJK JP";
   PangoFontDescription *description = pango_font_description_new();
@@ -120,7 +117,8 @@ PangoLayout *SimTextCreateLayout(NSString *text, SimTextFont font, CGFloat width
   pango_layout_set_text(layout, utf8 != NULL ? utf8 : "", -1);
   if (!font.monospace) {
     PangoAttrList *attributes = pango_attr_list_new();
-    pango_attr_list_insert(attributes, pango_attr_letter_spacing_new((int)lround(trackingFor(font.size) * PANGO_SCALE)));
+    pango_attr_list_insert(attributes,
+                           pango_attr_letter_spacing_new((int)lround(trackingFor(font.size) * PANGO_SCALE)));
     pango_layout_set_attributes(layout, attributes);
     pango_attr_list_unref(attributes);
   }
@@ -184,8 +182,8 @@ void SimTextDrawLayout(cairo_t *cr, PangoLayout *layout, CGPoint origin, CGFloat
     PangoRectangle logical;
     pango_layout_get_extents(layout, NULL, &logical);
     double x0 = origin.x + (double)logical.x / PANGO_SCALE, y0 = origin.y + (double)logical.y / PANGO_SCALE;
-    CGRect frame = deviceBox(cr, x0, y0, x0 + (double)logical.width / PANGO_SCALE,
-                             y0 + (double)logical.height / PANGO_SCALE);
+    CGRect frame =
+        deviceBox(cr, x0, y0, x0 + (double)logical.width / PANGO_SCALE, y0 + (double)logical.height / PANGO_SCALE);
     double cx0, cy0, cx1, cy1;
     cairo_clip_extents(cr, &cx0, &cy0, &cx1, &cy1);
     CGRect clip = deviceBox(cr, cx0, cy0, cx1, cy1);

@@ -11,7 +11,8 @@
   const char *link = [path isKindOfClass:[NSString class]] ? [path fileSystemRepresentation] : NULL;
   ssize_t length = link != NULL ? readlink(link, target, sizeof target - 1) : -1;
   if (length < 0) {
-    if (error != NULL) *error = [NSError errorWithDomain:NSPOSIXErrorDomain code:link != NULL ? errno : EINVAL userInfo:nil];
+    if (error != NULL)
+      *error = [NSError errorWithDomain:NSPOSIXErrorDomain code:link != NULL ? errno : EINVAL userInfo:nil];
     return nil;
   }
   return [self stringWithFileSystemRepresentation:target length:(NSUInteger)length];

@@ -89,10 +89,10 @@ BOOL SimMailComposerFinish(MFMailComposeViewController *composer, MFMailComposeR
   if (!composer) return NO;
   [[composer retain] autorelease];
   if (result == MFMailComposeResultSent) {
-    NSDictionary *mail = [NSDictionary dictionaryWithObjectsAndKeys:
-        [composer _simSubject] ? [composer _simSubject] : @"", @"subject",
-        [composer _simToRecipients] ? [composer _simToRecipients] : [NSArray array], @"to",
-        [composer _simMessageBody] ? [composer _simMessageBody] : @"", @"body", nil];
+    NSDictionary *mail = [NSDictionary
+        dictionaryWithObjectsAndKeys:[composer _simSubject] ? [composer _simSubject] : @"", @"subject",
+                                     [composer _simToRecipients] ? [composer _simToRecipients] : [NSArray array], @"to",
+                                     [composer _simMessageBody] ? [composer _simMessageBody] : @"", @"body", nil];
     [sentMails() addObject:mail];
   }
   NSError *error = result == MFMailComposeResultFailed
@@ -104,10 +104,6 @@ BOOL SimMailComposerFinish(MFMailComposeViewController *composer, MFMailComposeR
   return YES;
 }
 
-NSArray *SimSentMails(void) {
-  return [NSArray arrayWithArray:sentMails()];
-}
+NSArray *SimSentMails(void) { return [NSArray arrayWithArray:sentMails()]; }
 
-void SimMailReset(void) {
-  [sentMails() removeAllObjects];
-}
+void SimMailReset(void) { [sentMails() removeAllObjects]; }

@@ -70,8 +70,9 @@ UIColor *paletteColor(const PaletteEntry *palette, NSInteger style, NSInteger mo
 }
 
 - (void)_simRecordColor:(UIColor *)color kind:(NSString *)kind animated:(BOOL)animated {
-  [_simColorChanges addObject:[NSDictionary dictionaryWithObjectsAndKeys:kind, @"kind", color ? (id)color : (id)[NSNull null],
-                                                                         @"color", @(animated), @"animated", nil]];
+  [_simColorChanges
+      addObject:[NSDictionary dictionaryWithObjectsAndKeys:kind, @"kind", color ? (id)color : (id)[NSNull null],
+                                                           @"color", @(animated), @"animated", nil]];
 }
 
 - (void)_setPrimaryColor:(UIColor *)color animated:(BOOL)animated {

@@ -2,7 +2,8 @@
 
 @implementation PSControlTableCell
 @synthesize control = _control;
-- (instancetype)initWithStyle:(UITableViewCellStyle)style reuseIdentifier:(NSString *)reuseIdentifier
+- (instancetype)initWithStyle:(UITableViewCellStyle)style
+              reuseIdentifier:(NSString *)reuseIdentifier
                     specifier:(PSSpecifier *)specifier {
   if ((self = [super initWithStyle:style reuseIdentifier:reuseIdentifier specifier:specifier])) {
     self.accessoryType = UITableViewCellAccessoryNone;

@@ -25,11 +25,13 @@
 - (BOOL)tableView:(UITableView *)tableView canEditRowAtIndexPath:(NSIndexPath *)indexPath {
   return _editable;
 }
-- (UITableViewCellEditingStyle)tableView:(UITableView *)tableView editingStyleForRowAtIndexPath:(NSIndexPath *)indexPath {
+- (UITableViewCellEditingStyle)tableView:(UITableView *)tableView
+           editingStyleForRowAtIndexPath:(NSIndexPath *)indexPath {
   return _editable ? UITableViewCellEditingStyleDelete : UITableViewCellEditingStyleNone;
 }
-- (void)tableView:(UITableView *)tableView commitEditingStyle:(UITableViewCellEditingStyle)style
-    forRowAtIndexPath:(NSIndexPath *)indexPath {
+- (void)tableView:(UITableView *)tableView
+    commitEditingStyle:(UITableViewCellEditingStyle)style
+     forRowAtIndexPath:(NSIndexPath *)indexPath {
   if (style != UITableViewCellEditingStyleDelete) return;
   PSSpecifier *s = [self specifierAtIndexPath:indexPath];
   if (s) [self performDeletionActionForSpecifier:s];
@@ -40,7 +42,8 @@
   [self removeSpecifier:specifier animated:YES];
   id action = [specifier propertyForKey:@"deletionAction"];
   SEL deletion = [action isKindOfClass:[NSString class]] ? NSSelectorFromString(action) : NULL;
-  if (deletion && [specifier.target respondsToSelector:deletion]) [specifier.target performSelector:deletion withObject:specifier];
+  if (deletion && [specifier.target respondsToSelector:deletion])
+    [specifier.target performSelector:deletion withObject:specifier];
   return YES;
 }
 @end

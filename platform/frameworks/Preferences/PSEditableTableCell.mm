@@ -2,7 +2,8 @@
 
 @implementation PSEditableTableCell
 @synthesize delegate = _delegate;
-- (instancetype)initWithStyle:(UITableViewCellStyle)style reuseIdentifier:(NSString *)reuseIdentifier
+- (instancetype)initWithStyle:(UITableViewCellStyle)style
+              reuseIdentifier:(NSString *)reuseIdentifier
                     specifier:(PSSpecifier *)specifier {
   if ((self = [super initWithStyle:style reuseIdentifier:reuseIdentifier specifier:specifier])) {
     self.accessoryType = UITableViewCellAccessoryNone;
@@ -78,7 +79,8 @@
 @end
 
 BOOL SimEditableCellType(PSEditableTableCell *cell, NSString *text) {
-  if (![cell isKindOfClass:[PSEditableTableCell class]] || [[UIApplication sharedApplication] isIgnoringInteractionEvents])
+  if (![cell isKindOfClass:[PSEditableTableCell class]] ||
+      [[UIApplication sharedApplication] isIgnoringInteractionEvents])
     return NO;
   if (!cell.userInteractionEnabled) return NO;
   UITextField *field = [cell textField];
@@ -86,7 +88,9 @@ BOOL SimEditableCellType(PSEditableTableCell *cell, NSString *text) {
   field.text = text ? text : @"";
   [field sendActionsForControlEvents:UIControlEventEditingChanged];
   id<UITextFieldDelegate> delegate = field.delegate;
-  if ([delegate respondsToSelector:@selector(textFieldShouldReturn:)]) [delegate textFieldShouldReturn:field];
-  else [field resignFirstResponder];
+  if ([delegate respondsToSelector:@selector(textFieldShouldReturn:)])
+    [delegate textFieldShouldReturn:field];
+  else
+    [field resignFirstResponder];
   return YES;
 }

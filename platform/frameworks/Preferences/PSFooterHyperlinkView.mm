@@ -15,7 +15,8 @@
     _text = [[text isKindOfClass:[NSString class]] ? text : @"" copy];
     id range = [specifier propertyForKey:@"footerHyperlinkRange"];
     _linkRange = [range isKindOfClass:[NSString class]] ? NSRangeFromString(range) : NSMakeRange(NSNotFound, 0);
-    if (_linkRange.location == NSNotFound || NSMaxRange(_linkRange) > _text.length) _linkRange = NSMakeRange(NSNotFound, 0);
+    if (_linkRange.location == NSNotFound || NSMaxRange(_linkRange) > _text.length)
+      _linkRange = NSMakeRange(NSNotFound, 0);
     id t = [specifier propertyForKey:@"footerHyperlinkTarget"];
     if ([t isKindOfClass:[NSValue class]] && strcmp([t objCType], @encode(id)) == 0) {
       id unboxed = nil;
@@ -50,7 +51,9 @@
 }
 - (CGFloat)preferredHeightForWidth:(CGFloat)width {
   NSDictionary *attrs = [NSDictionary dictionaryWithObject:_textLabel.font forKey:NSFontAttributeName];
-  return [_text boundingRectWithSize:CGSizeMake(width - 30, CGFLOAT_MAX) options:0 attributes:attrs context:nil].size.height + 17;
+  return [_text boundingRectWithSize:CGSizeMake(width - 30, CGFLOAT_MAX) options:0 attributes:attrs context:nil]
+             .size.height +
+         17;
 }
 - (void)layoutSubviews {
   [super layoutSubviews];

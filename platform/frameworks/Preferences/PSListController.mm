@@ -31,7 +31,8 @@ static PSCellType defaultCellType(NSString *name) {
   return UITableViewStyleGrouped;
 }
 - (void)loadView {
-  UITableView *table = [[[self tableViewClass] alloc] initWithFrame:[UIScreen mainScreen].bounds style:[self tableViewStyle]];
+  UITableView *table = [[[self tableViewClass] alloc] initWithFrame:[UIScreen mainScreen].bounds
+                                                              style:[self tableViewStyle]];
   table.autoresizingMask = UIViewAutoresizingFlexibleWidth | UIViewAutoresizingFlexibleHeight;
   table.dataSource = self;
   table.delegate = self;
@@ -135,7 +136,8 @@ static PSCellType defaultCellType(NSString *name) {
   NSDictionary *plist = path ? [NSDictionary dictionaryWithContentsOfFile:path] : nil;
   if (![plist isKindOfClass:[NSDictionary class]]) return rows;
   NSString *title = [plist objectForKey:@"title"];
-  if ([title isKindOfClass:[NSString class]]) self.title = [bundle localizedStringForKey:title value:title table:plistName];
+  if ([title isKindOfClass:[NSString class]])
+    self.title = [bundle localizedStringForKey:title value:title table:plistName];
   NSArray *items = [plist objectForKey:@"items"];
   if (![items isKindOfClass:[NSArray class]]) return rows;
   for (NSDictionary *item in items) {
@@ -145,13 +147,19 @@ static PSCellType defaultCellType(NSString *name) {
     if (![label isKindOfClass:[NSString class]]) label = nil;
     if (label) label = [bundle localizedStringForKey:label value:label table:plistName];
     NSString *set = [item objectForKey:@"set"], *get = [item objectForKey:@"get"];
-    SEL setter = [set isKindOfClass:[NSString class]] ? NSSelectorFromString(set) : @selector(setPreferenceValue:specifier:);
+    SEL setter =
+        [set isKindOfClass:[NSString class]] ? NSSelectorFromString(set) : @selector(setPreferenceValue:specifier:);
     SEL getter = [get isKindOfClass:[NSString class]] ? NSSelectorFromString(get) : @selector(readPreferenceValue:);
     NSString *detail = [item objectForKey:@"detail"];
     Class detailClass = [detail isKindOfClass:[NSString class]] ? NSClassFromString(detail) : Nil;
     PSCellType type = defaultCellType([cell isKindOfClass:[NSString class]] ? cell : nil);
-    PSSpecifier *s = [PSSpecifier preferenceSpecifierNamed:label target:target set:setter get:getter detail:detailClass
-                                                      cell:type edit:Nil];
+    PSSpecifier *s = [PSSpecifier preferenceSpecifierNamed:label
+                                                    target:target
+                                                       set:setter
+                                                       get:getter
+                                                    detail:detailClass
+                                                      cell:type
+                                                      edit:Nil];
     for (NSString *key in item) [s setProperty:[item objectForKey:key] forKey:key];
     NSString *cellClass = [item objectForKey:PSCellClassKey];
     if ([cellClass isKindOfClass:[NSString class]]) {
@@ -171,13 +179,19 @@ static PSCellType defaultCellType(NSString *name) {
     if ([values isKindOfClass:[NSArray class]]) {
       NSMutableArray *localized = [NSMutableArray array];
       for (id t in [titles isKindOfClass:[NSArray class]] ? titles : values)
-        [localized addObject:[t isKindOfClass:[NSString class]] ? [bundle localizedStringForKey:t value:t table:plistName] : t];
+        [localized addObject:[t isKindOfClass:[NSString class]] ? [bundle localizedStringForKey:t
+                                                                                          value:t
+                                                                                          table:plistName]
+                                                                : t];
       NSArray *shortTitles = [item objectForKey:@"shortTitles"];
       NSMutableArray *localizedShort = nil;
       if ([shortTitles isKindOfClass:[NSArray class]]) {
         localizedShort = [NSMutableArray array];
         for (id t in shortTitles)
-          [localizedShort addObject:[t isKindOfClass:[NSString class]] ? [bundle localizedStringForKey:t value:t table:plistName] : t];
+          [localizedShort addObject:[t isKindOfClass:[NSString class]] ? [bundle localizedStringForKey:t
+                                                                                                 value:t
+                                                                                                 table:plistName]
+                                                                       : t];
       }
       [s setValues:values titles:localized shortTitles:localizedShort];
     }
@@ -194,14 +208,30 @@ static PSCellType defaultCellType(NSString *name) {
 
 #pragma mark - Groups
 
-// Each group specifier starts a group; rows before the first one form a group too.
+// Each group specifier starts a group; rows before the first one form a group too. Kept
+// while the rows stay the same array of the same length, as the framework keeps its group
+// indices until the rows change (the table asks for them for every row it measures).
 - (NSArray *)_simGroupStarts:(NSArray *)rows {
+  if (_groups.count == 3 && [_groups objectAtIndex:0] == rows &&
+      [[_groups objectAtIndex:1] unsignedIntegerValue] == rows.count)
+    return [_groups objectAtIndex:2];
   NSMutableArray *starts = [NSMutableArray array];
   for (NSUInteger i = 0; i < rows.count; ++i) {
     PSSpecifier *s = [rows objectAtIndex:i];
     if (i == 0 || s.cellType == PSGroupCell) [starts addObject:[NSNumber numberWithUnsignedInteger:i]];
   }
+  [_groups release];
+  _groups = [[NSMutableArray alloc] initWithObjects:rows, [NSNumber numberWithUnsignedInteger:rows.count], starts, nil];
   return starts;
+}
+// The group's rows in the rows: [first, end).
+- (BOOL)_simGroup:(NSInteger)group first:(NSUInteger *)first end:(NSUInteger *)end inRows:(NSArray *)rows {
+  NSArray *starts = [self _simGroupStarts:rows];
+  if (group < 0 || (NSUInteger)group >= starts.count) return NO;
+  NSUInteger start = [[starts objectAtIndex:group] unsignedIntegerValue];
+  *end = (NSUInteger)group + 1 < starts.count ? [[starts objectAtIndex:group + 1] unsignedIntegerValue] : rows.count;
+  *first = [(PSSpecifier *)[rows objectAtIndex:start] cellType] == PSGroupCell ? start + 1 : start;
+  return YES;
 }
 - (NSInteger)numberOfGroups {
   return [self _simGroupStarts:[self _simRows]].count;
@@ -223,7 +253,8 @@ static PSCellType defaultCellType(NSString *name) {
   NSArray *starts = [self _simGroupStarts:rows];
   if (group < 0 || (NSUInteger)group >= starts.count) return [NSArray array];
   NSUInteger start = [[starts objectAtIndex:group] unsignedIntegerValue];
-  NSUInteger end = (NSUInteger)group + 1 < starts.count ? [[starts objectAtIndex:group + 1] unsignedIntegerValue] : rows.count;
+  NSUInteger end =
+      (NSUInteger)group + 1 < starts.count ? [[starts objectAtIndex:group + 1] unsignedIntegerValue] : rows.count;
   NSMutableArray *out = [NSMutableArray array];
   for (NSUInteger i = start; i < end; ++i) {
     PSSpecifier *s = [rows objectAtIndex:i];
@@ -232,15 +263,20 @@ static PSCellType defaultCellType(NSString *name) {
   return out;
 }
 - (NSInteger)rowsForGroup:(NSInteger)group {
-  return [self specifiersInGroup:group].count;
+  NSUInteger first, end;
+  return [self _simGroup:group first:&first end:&end inRows:[self _simRows]] ? (NSInteger)(end - first) : 0;
 }
 - (NSInteger)indexForRow:(NSInteger)row inGroup:(NSInteger)group {
   PSSpecifier *s = [self specifierAtIndexPath:[NSIndexPath indexPathForRow:row inSection:group]];
   return s ? [[self _simRows] indexOfObjectIdenticalTo:s] : NSNotFound;
 }
 - (PSSpecifier *)specifierAtIndexPath:(NSIndexPath *)indexPath {
-  NSArray *rows = [self specifiersInGroup:indexPath.section];
-  return indexPath.row >= 0 && (NSUInteger)indexPath.row < rows.count ? [rows objectAtIndex:indexPath.row] : nil;
+  NSArray *rows = [self _simRows];
+  NSUInteger first, end;
+  if (![self _simGroup:indexPath.section first:&first end:&end inRows:rows] || indexPath.row < 0 ||
+      (NSUInteger)indexPath.row >= end - first)
+    return nil;
+  return [rows objectAtIndex:first + indexPath.row];
 }
 - (BOOL)getGroup:(NSInteger *)group row:(NSInteger *)row ofSpecifier:(PSSpecifier *)specifier {
   NSArray *rows = [self _simRows];
@@ -309,7 +345,8 @@ static PSCellType defaultCellType(NSString *name) {
 - (void)insertContiguousSpecifiers:(NSArray *)specifiers atIndex:(NSInteger)index animated:(BOOL)animated {
   NSMutableArray *rows = [self _simMutableRows];
   if (index < 0 || (NSUInteger)index > rows.count) index = rows.count;
-  [rows insertObjects:specifiers atIndexes:[NSIndexSet indexSetWithIndexesInRange:NSMakeRange(index, specifiers.count)]];
+  [rows insertObjects:specifiers
+            atIndexes:[NSIndexSet indexSetWithIndexesInRange:NSMakeRange(index, specifiers.count)]];
   [self _simReplaceRows:rows];
 }
 - (void)insertContiguousSpecifiers:(NSArray *)specifiers atIndex:(NSInteger)index {
@@ -317,7 +354,9 @@ static PSCellType defaultCellType(NSString *name) {
 }
 - (void)insertContiguousSpecifiers:(NSArray *)specifiers afterSpecifier:(PSSpecifier *)other animated:(BOOL)animated {
   NSUInteger i = [[self _simRows] indexOfObjectIdenticalTo:other];
-  [self insertContiguousSpecifiers:specifiers atIndex:i == NSNotFound ? NSNotFound : (NSInteger)i + 1 animated:animated];
+  [self insertContiguousSpecifiers:specifiers
+                           atIndex:i == NSNotFound ? NSNotFound : (NSInteger)i + 1
+                          animated:animated];
 }
 - (void)insertSpecifier:(PSSpecifier *)specifier atIndex:(NSInteger)index animated:(BOOL)animated {
   if (specifier) [self insertContiguousSpecifiers:[NSArray arrayWithObject:specifier] atIndex:index animated:animated];
@@ -326,7 +365,8 @@ static PSCellType defaultCellType(NSString *name) {
   [self insertSpecifier:specifier atIndex:index animated:NO];
 }
 - (void)insertSpecifier:(PSSpecifier *)specifier afterSpecifier:(PSSpecifier *)other animated:(BOOL)animated {
-  if (specifier) [self insertContiguousSpecifiers:[NSArray arrayWithObject:specifier] afterSpecifier:other animated:animated];
+  if (specifier)
+    [self insertContiguousSpecifiers:[NSArray arrayWithObject:specifier] afterSpecifier:other animated:animated];
 }
 - (void)insertSpecifier:(PSSpecifier *)specifier afterSpecifier:(PSSpecifier *)other {
   [self insertSpecifier:specifier afterSpecifier:other animated:NO];
@@ -375,12 +415,15 @@ static PSCellType defaultCellType(NSString *name) {
 - (void)removeSpecifierAtIndex:(NSInteger)index {
   [self removeSpecifierAtIndex:index animated:NO];
 }
-- (void)replaceContiguousSpecifiers:(NSArray *)specifiers withSpecifiers:(NSArray *)newSpecifiers animated:(BOOL)animated {
+- (void)replaceContiguousSpecifiers:(NSArray *)specifiers
+                     withSpecifiers:(NSArray *)newSpecifiers
+                           animated:(BOOL)animated {
   NSMutableArray *rows = [self _simMutableRows];
   NSUInteger at = specifiers.count ? [rows indexOfObjectIdenticalTo:[specifiers objectAtIndex:0]] : NSNotFound;
   for (PSSpecifier *s in specifiers) [rows removeObjectIdenticalTo:s];
   if (at == NSNotFound || at > rows.count) at = rows.count;
-  [rows insertObjects:newSpecifiers atIndexes:[NSIndexSet indexSetWithIndexesInRange:NSMakeRange(at, newSpecifiers.count)]];
+  [rows insertObjects:newSpecifiers
+            atIndexes:[NSIndexSet indexSetWithIndexesInRange:NSMakeRange(at, newSpecifiers.count)]];
   [self _simReplaceRows:rows];
 }
 - (void)replaceContiguousSpecifiers:(NSArray *)specifiers withSpecifiers:(NSArray *)newSpecifiers {
@@ -394,12 +437,17 @@ static PSCellType defaultCellType(NSString *name) {
   if ([cls isKindOfClass:[NSString class]]) cls = NSClassFromString(cls);
   if (cls && class_isMetaClass(object_getClass(cls)) && [cls isSubclassOfClass:[UITableViewCell class]]) return cls;
   switch (specifier.cellType) {
-    case PSSwitchCell: return [PSSwitchTableCell class];
+    case PSSwitchCell:
+      return [PSSwitchTableCell class];
     case PSEditTextCell:
-    case PSSecureEditTextCell: return [PSEditableTableCell class];
-    case PSSliderCell: return [PSSliderTableCell class];
-    case PSSegmentCell: return [PSSegmentTableCell class];
-    default: return [PSTableCell class];
+    case PSSecureEditTextCell:
+      return [PSEditableTableCell class];
+    case PSSliderCell:
+      return [PSSliderTableCell class];
+    case PSSegmentCell:
+      return [PSSegmentTableCell class];
+    default:
+      return [PSTableCell class];
   }
 }
 - (id)_simValueForSpecifier:(PSSpecifier *)specifier {
@@ -412,9 +460,11 @@ static PSCellType defaultCellType(NSString *name) {
   Class cls = [self cellClassForSpecifier:specifier];
   UITableViewCell *cell = [specifier propertyForKey:PSTableCellKey];
   if (![cell isKindOfClass:cls] || [cell class] != cls) {
-    UITableViewCellStyle style = [cls respondsToSelector:@selector(cellStyle)] ? [cls cellStyle] : UITableViewCellStyleValue1;
-    NSString *reuse = [cls respondsToSelector:@selector(reuseIdentifierForSpecifier:)] ? [cls reuseIdentifierForSpecifier:specifier]
-                                                                                      : NSStringFromClass(cls);
+    UITableViewCellStyle style =
+        [cls respondsToSelector:@selector(cellStyle)] ? [cls cellStyle] : UITableViewCellStyleValue1;
+    NSString *reuse = [cls respondsToSelector:@selector(reuseIdentifierForSpecifier:)]
+                          ? [cls reuseIdentifierForSpecifier:specifier]
+                          : NSStringFromClass(cls);
     if ([cls instancesRespondToSelector:@selector(initWithStyle:reuseIdentifier:specifier:)])
       cell = [[[cls alloc] initWithStyle:style reuseIdentifier:reuse specifier:specifier] autorelease];
     else
@@ -504,8 +554,9 @@ static PSCellType defaultCellType(NSString *name) {
   if (!cls || !class_isMetaClass(object_getClass(cls)) || ![cls isSubclassOfClass:[UIView class]]) return nil;
   UIView *view = [g propertyForKey:cacheKey];
   if (![view isKindOfClass:cls]) {
-    view = [cls instancesRespondToSelector:@selector(initWithSpecifier:)] ? [[[cls alloc] initWithSpecifier:g] autorelease]
-                                                                         : [[[cls alloc] initWithFrame:CGRectZero] autorelease];
+    view = [cls instancesRespondToSelector:@selector(initWithSpecifier:)]
+               ? [[[cls alloc] initWithSpecifier:g] autorelease]
+               : [[[cls alloc] initWithFrame:CGRectZero] autorelease];
     if (view) [g setProperty:view forKey:cacheKey];
   }
   return view;

@@ -54,7 +54,8 @@
 - (void)setStringValue:(NSString *)value {
   [_stringValue setString:[value isKindOfClass:[NSString class]] ? value : @""];
   if (_stringValue.length > _numberOfEntryFields)
-    [_stringValue deleteCharactersInRange:NSMakeRange(_numberOfEntryFields, _stringValue.length - _numberOfEntryFields)];
+    [_stringValue
+        deleteCharactersInRange:NSMakeRange(_numberOfEntryFields, _stringValue.length - _numberOfEntryFields)];
 }
 
 #pragma mark - Typing
@@ -70,8 +71,8 @@
   for (NSUInteger i = 0; i < text.length; ++i) {
     if (_stringValue.length >= _numberOfEntryFields) return;
     NSString *ch = [text substringWithRange:NSMakeRange(i, 1)];
-    if ([_delegate respondsToSelector:@selector(passcodeField:shouldInsertText:)] &&
-        ![_delegate passcodeField:self shouldInsertText:ch])
+    if ([_delegate respondsToSelector:@selector(passcodeField:shouldInsertText:)] && ![_delegate passcodeField:self
+                                                                                              shouldInsertText:ch])
       continue;
     [_stringValue appendString:ch];
     if (_stringValue.length == _numberOfEntryFields) {
@@ -79,7 +80,8 @@
       NSString *entry = [NSString stringWithString:_stringValue];
       if ([_delegate respondsToSelector:@selector(passcodeField:enteredPasscode:)])
         [_delegate passcodeField:self enteredPasscode:entry];
-      if ([_delegate respondsToSelector:@selector(passcodeFieldDidAcceptEntry:)]) [_delegate passcodeFieldDidAcceptEntry:self];
+      if ([_delegate respondsToSelector:@selector(passcodeFieldDidAcceptEntry:)])
+        [_delegate passcodeFieldDidAcceptEntry:self];
     }
   }
 }
@@ -92,7 +94,8 @@
 @end
 
 void SimPasscodeFieldType(PSPasscodeField *field, NSString *digits) {
-  if (!field || ![digits isKindOfClass:[NSString class]] || [[UIApplication sharedApplication] isIgnoringInteractionEvents])
+  if (!field || ![digits isKindOfClass:[NSString class]] ||
+      [[UIApplication sharedApplication] isIgnoringInteractionEvents])
     return;
   for (NSUInteger i = 0; i < digits.length; ++i) [field insertText:[digits substringWithRange:NSMakeRange(i, 1)]];
 }

@@ -47,8 +47,13 @@ NSString *const PSTargetKey = @"target";
 @synthesize properties = _properties;
 @synthesize showContentString = _showContentString;
 
-+ (instancetype)preferenceSpecifierNamed:(NSString *)name target:(id)t set:(SEL)set get:(SEL)get detail:(Class)detail
-                                    cell:(PSCellType)cell edit:(Class)edit {
++ (instancetype)preferenceSpecifierNamed:(NSString *)name
+                                  target:(id)t
+                                     set:(SEL)set
+                                     get:(SEL)get
+                                  detail:(Class)detail
+                                    cell:(PSCellType)cell
+                                    edit:(Class)edit {
   PSSpecifier *s = [[[self alloc] init] autorelease];
   s.name = name;
   s->target = t;
@@ -193,6 +198,7 @@ NSString *const PSTargetKey = @"target";
   if (target && getter && [target respondsToSelector:getter]) [target performSelector:getter withObject:self];
 }
 - (void)performSetterWithValue:(id)value {
-  if (target && setter && [target respondsToSelector:setter]) [target performSelector:setter withObject:value withObject:self];
+  if (target && setter && [target respondsToSelector:setter])
+    [target performSelector:setter withObject:value withObject:self];
 }
 @end

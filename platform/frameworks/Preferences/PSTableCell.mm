@@ -34,13 +34,15 @@ static NSArray *cellTypeNames(void) {
 - (instancetype)initWithStyle:(UITableViewCellStyle)style reuseIdentifier:(NSString *)reuseIdentifier {
   return [self initWithStyle:style reuseIdentifier:reuseIdentifier specifier:nil];
 }
-- (instancetype)initWithStyle:(UITableViewCellStyle)style reuseIdentifier:(NSString *)reuseIdentifier
+- (instancetype)initWithStyle:(UITableViewCellStyle)style
+              reuseIdentifier:(NSString *)reuseIdentifier
                     specifier:(PSSpecifier *)specifier {
   if ((self = [super initWithStyle:style reuseIdentifier:reuseIdentifier])) {
     _cellEnabled = YES;
     _type = specifier ? specifier.cellType : PSLinkCell;
     self.specifier = specifier;
-    if (_type == PSLinkCell || _type == PSLinkListCell) self.accessoryType = UITableViewCellAccessoryDisclosureIndicator;
+    if (_type == PSLinkCell || _type == PSLinkListCell)
+      self.accessoryType = UITableViewCellAccessoryDisclosureIndicator;
     if (_type == PSButtonCell) self.textLabel.textColor = [UIColor systemBlueColor];
     if (_type == PSStaticTextCell || _type == PSTitleValueCell || _type == PSGroupCell)
       self.selectionStyle = UITableViewCellSelectionStyleNone;
@@ -100,9 +102,7 @@ static NSArray *cellTypeNames(void) {
     id shown = value;
     NSDictionary *titles = _specifier.titleDictionary;
     if (titles && value && [titles objectForKey:value]) shown = [titles objectForKey:value];
-    self.detailTextLabel.text = [shown isKindOfClass:[NSString class]] ? shown
-                                : shown                               ? [shown description]
-                                                                      : nil;
+    self.detailTextLabel.text = [shown isKindOfClass:[NSString class]] ? shown : shown ? [shown description] : nil;
   }
 }
 - (id)value {
@@ -120,13 +120,15 @@ static NSArray *cellTypeNames(void) {
   if (![icon isKindOfClass:[UIImage class]]) icon = nil;
   if (!icon && [[specifier propertyForKey:PSLazyIconLoading] boolValue]) {
     NSString *appID = [specifier propertyForKey:PSLazyIconAppID];
-    if ([appID isKindOfClass:[NSString class]]) icon = [UIImage _applicationIconImageForBundleIdentifier:appID format:0 scale:0];
+    if ([appID isKindOfClass:[NSString class]])
+      icon = [UIImage _applicationIconImageForBundleIdentifier:appID format:0 scale:0];
   }
   if (icon || self.imageView.image) [self setIcon:icon];
   id enabled = [specifier propertyForKey:PSEnabledKey];
   [self setCellEnabled:enabled ? [enabled boolValue] : YES];
   id alignment = [specifier propertyForKey:PSAlignmentKey];
-  if ([alignment respondsToSelector:@selector(integerValue)]) self.textLabel.textAlignment = (NSTextAlignment)[alignment integerValue];
+  if ([alignment respondsToSelector:@selector(integerValue)])
+    self.textLabel.textAlignment = (NSTextAlignment)[alignment integerValue];
   if (_type == PSButtonCell) {
     _cellTarget = specifier.target;
     _cellAction = specifier.buttonAction;

@@ -7,10 +7,10 @@
   UINavigationController *_listNavigation;
   NSArray *_rootSpecifiers;
 }
-@property(nonatomic, retain) UIWindow *window;
-@property(nonatomic, retain) PSRootController *rootController;
-@property(nonatomic, retain) UINavigationController *listNavigation;
-@property(nonatomic, copy) NSArray *rootSpecifiers;
+@property (nonatomic, retain) UIWindow *window;
+@property (nonatomic, retain) PSRootController *rootController;
+@property (nonatomic, retain) UINavigationController *listNavigation;
+@property (nonatomic, copy) NSArray *rootSpecifiers;
 + (instancetype)shared;
 @end
 @implementation _SimSettingsState

@@ -1,8 +1,7 @@
 #import <PreferencesUI/PSUIPearlPasscodeController.h>
 
 @implementation PSUIPearlPasscodeController
-- (NSData *)authorizationToken
-{
-    return [self _authorizationToken];
+- (NSData *)authorizationToken {
+  return [self _authorizationToken];
 }
 @end

@@ -12,9 +12,9 @@
   return a;
 }
 - (NSString *)description {
-  return [NSString stringWithFormat:@"<CABasicAnimation %@ from %@ to %@ duration %g repeat %g%@>", _keyPath,
-                                    _fromValue, _toValue, _duration, _repeatCount,
-                                    _autoreverses ? @" autoreverses" : @""];
+  return
+      [NSString stringWithFormat:@"<CABasicAnimation %@ from %@ to %@ duration %g repeat %g%@>", _keyPath, _fromValue,
+                                 _toValue, _duration, _repeatCount, _autoreverses ? @" autoreverses" : @""];
 }
 - (void)dealloc {
   [_fromValue release];

@@ -13,8 +13,8 @@ NSString *const kCAGravityCenter = @"center";
   CALayer *_layer;
   CAAnimation *_animation;
 }
-@property(nonatomic, retain) CALayer *layer;
-@property(nonatomic, retain) CAAnimation *animation;
+@property (nonatomic, retain) CALayer *layer;
+@property (nonatomic, retain) CAAnimation *animation;
 - (void)fire;
 @end
 
@@ -314,8 +314,7 @@ NSString *const kCAGravityCenter = @"center";
     CGContextSetFillColorWithColor(ctx, _backgroundColor);
     // The record notes the rounding beside the rectangle; the pixels are rounded.
     cairo_t *cr = _cornerRadius > 0 ? SimCGContextCairo(ctx) : NULL;
-    if (_cornerRadius > 0)
-      SimCGContextRecord(ctx, [NSString stringWithFormat:@"cornerRadius %g", _cornerRadius]);
+    if (_cornerRadius > 0) SimCGContextRecord(ctx, [NSString stringWithFormat:@"cornerRadius %g", _cornerRadius]);
     if (cr != NULL) {
       double radius = fmin(_cornerRadius, fmin(r.size.width, r.size.height) / 2);
       cairo_save(cr);

@@ -23,10 +23,10 @@ NSString *const kCAMediaTimingFunctionDefault = @"default";
   f->_name = [name copy];
   return [f autorelease];
 }
-+ (instancetype)functionWithControlPoints:(float)c1x :(float)c1y :(float)c2x :(float)c2y {
++ (instancetype)functionWithControlPoints:(float)c1x:(float)c1y:(float)c2x:(float)c2y {
   return [[[self alloc] initWithControlPoints:c1x:c1y:c2x:c2y] autorelease];
 }
-- (instancetype)initWithControlPoints:(float)c1x :(float)c1y :(float)c2x :(float)c2y {
+- (instancetype)initWithControlPoints:(float)c1x:(float)c1y:(float)c2x:(float)c2y {
   if ((self = [super init])) {
     _c1x = c1x;
     _c1y = c1y;

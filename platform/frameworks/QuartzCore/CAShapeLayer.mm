@@ -75,8 +75,8 @@ NSString *const kCALineCapSquare = @"square";
     CGContextSetStrokeColorWithColor(ctx, _strokeColor);
     CGContextSetLineWidth(ctx, _lineWidth);
     if (_lineDashPattern.count)
-      SimCGContextRecord(ctx, [NSString stringWithFormat:@"lineDash %@",
-                                                         [_lineDashPattern componentsJoinedByString:@" "]]);
+      SimCGContextRecord(ctx,
+                         [NSString stringWithFormat:@"lineDash %@", [_lineDashPattern componentsJoinedByString:@" "]]);
     CGContextAddPath(ctx, _path);
     CGContextStrokePath(ctx);
   }

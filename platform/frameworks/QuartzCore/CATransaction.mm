@@ -31,9 +31,9 @@
   NSMutableDictionary *_values;
   NSMutableArray *_completions;
 }
-@property(nonatomic) NSInteger depth;
-@property(nonatomic, readonly) NSMutableDictionary *values;
-@property(nonatomic, readonly) NSMutableArray *completions;
+@property (nonatomic) NSInteger depth;
+@property (nonatomic, readonly) NSMutableDictionary *values;
+@property (nonatomic, readonly) NSMutableArray *completions;
 + (instancetype)shared;
 @end
 @implementation _SimCATransactionState
@@ -120,7 +120,8 @@
   if (s.depth == 0) {
     // Outside an explicit transaction the implicit one commits at the end of this turn.
     if (block)
-      [s performSelector:@selector(runCompletion:) withObject:[[[_SimCABlockBox alloc] initWithBlock:block] autorelease]
+      [s performSelector:@selector(runCompletion:)
+              withObject:[[[_SimCABlockBox alloc] initWithBlock:block] autorelease]
               afterDelay:0];
     return;
   }

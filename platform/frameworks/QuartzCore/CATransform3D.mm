@@ -65,8 +65,8 @@ CATransform3D CATransform3DRotate(CATransform3D t, CGFloat angle, CGFloat x, CGF
   return CATransform3DConcat(CATransform3DMakeRotation(angle, x, y, z), t);
 }
 bool CATransform3DIsAffine(CATransform3D t) {
-  return t.m13 == 0 && t.m23 == 0 && t.m31 == 0 && t.m32 == 0 && t.m33 == 1 && t.m43 == 0 && t.m14 == 0 &&
-         t.m24 == 0 && t.m34 == 0 && t.m44 == 1;
+  return t.m13 == 0 && t.m23 == 0 && t.m31 == 0 && t.m32 == 0 && t.m33 == 1 && t.m43 == 0 && t.m14 == 0 && t.m24 == 0 &&
+         t.m34 == 0 && t.m44 == 1;
 }
 CATransform3D CATransform3DMakeAffineTransform(CGAffineTransform m) {
   CATransform3D t = CATransform3DIdentity;

@@ -7,8 +7,8 @@
 namespace {
 
 struct SystemFile {
-    const char *path;      // device path
-    const char *contents;  // UTF-8 text
+  const char *path;      // device path
+  const char *contents;  // UTF-8 text
 };
 
 constexpr SystemFile kSystemFiles[] = {
@@ -30,20 +30,19 @@ constexpr SystemFile kSystemFiles[] = {
 
 }  // namespace
 
-extern "C" int SimInstallSystemFiles(const char *root)
-{
-    if (root == NULL || root[0] != '/') return -1;
-    NSAutoreleasePool *pool = [[NSAutoreleasePool alloc] init];
-    NSString *rootPath = [NSString stringWithUTF8String:root];
-    int result = 0;
-    for (const SystemFile &file : kSystemFiles) {
-        NSString *hostPath = [rootPath stringByAppendingString:[NSString stringWithUTF8String:file.path]];
-        NSData *data = [NSData dataWithBytes:file.contents length:strlen(file.contents)];
-        if (!SimMakeDirectories([hostPath stringByDeletingLastPathComponent]) ||
-            ![data writeToFile:hostPath atomically:YES]) {
-            result = -1;
-        }
+extern "C" int SimInstallSystemFiles(const char *root) {
+  if (root == NULL || root[0] != '/') return -1;
+  NSAutoreleasePool *pool = [[NSAutoreleasePool alloc] init];
+  NSString *rootPath = [NSString stringWithUTF8String:root];
+  int result = 0;
+  for (const SystemFile &file : kSystemFiles) {
+    NSString *hostPath = [rootPath stringByAppendingString:[NSString stringWithUTF8String:file.path]];
+    NSData *data = [NSData dataWithBytes:file.contents length:strlen(file.contents)];
+    if (!SimMakeDirectories([hostPath stringByDeletingLastPathComponent]) || ![data writeToFile:hostPath
+                                                                                     atomically:YES]) {
+      result = -1;
     }
-    [pool release];
-    return result;
+  }
+  [pool release];
+  return result;
 }

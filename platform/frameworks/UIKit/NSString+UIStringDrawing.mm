@@ -14,8 +14,8 @@ static void drawString(NSString *text, NSDictionary *attrs, CGPoint origin, CGFl
   if ([colour isKindOfClass:[UIColor class]]) [colour getRed:&r green:&g blue:&b alpha:&a];
   NSParagraphStyle *paragraph = [attrs objectForKey:NSParagraphStyleAttributeName];
   int alignment = [paragraph isKindOfClass:[NSParagraphStyle class]] ? (int)[paragraph alignment] : SimTextAlignNatural;
-  PangoLayout *layout = SimTextCreateLayout(text, SimTextFontNamed([font fontName], [font pointSize]), width, 0,
-                                            alignment, NO);
+  PangoLayout *layout =
+      SimTextCreateLayout(text, SimTextFontNamed([font fontName], [font pointSize]), width, 0, alignment, NO);
   SimTextDrawLayout(cr, layout, origin, r, g, b, a);
   g_object_unref(layout);
 }
@@ -24,7 +24,9 @@ static void drawString(NSString *text, NSDictionary *attrs, CGPoint origin, CGFl
 - (CGSize)sizeWithAttributes:(NSDictionary *)attrs {
   return SimUIKitTextSize(self, [attrs objectForKey:NSFontAttributeName], 0, 0);
 }
-- (CGRect)boundingRectWithSize:(CGSize)size options:(NSInteger)options attributes:(NSDictionary *)attributes
+- (CGRect)boundingRectWithSize:(CGSize)size
+                       options:(NSInteger)options
+                    attributes:(NSDictionary *)attributes
                        context:(id)context {
   CGSize s = SimUIKitTextSize(self, [attributes objectForKey:NSFontAttributeName], size.width, 0);
   return CGRectMake(0, 0, s.width, s.height);

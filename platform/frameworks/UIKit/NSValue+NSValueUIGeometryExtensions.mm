@@ -1,14 +1,14 @@
 #import "UIKitInternal.h"
 
-#define SIM_VALUE_BOX(Type, Name)                                   \
-  +(NSValue *)valueWith##Name : (Type)v {                           \
-    return [NSValue valueWithBytes:&v objCType:@encode(Type)];      \
-  }                                                                 \
-  -(Type)Name##Value {                                              \
-    Type v;                                                         \
-    memset(&v, 0, sizeof v);                                        \
+#define SIM_VALUE_BOX(Type, Name)                                        \
+  +(NSValue *)valueWith##Name : (Type)v {                                \
+    return [NSValue valueWithBytes:&v objCType:@encode(Type)];           \
+  }                                                                      \
+  -(Type)Name##Value {                                                   \
+    Type v;                                                              \
+    memset(&v, 0, sizeof v);                                             \
     if (strcmp([self objCType], @encode(Type)) == 0) [self getValue:&v]; \
-    return v;                                                       \
+    return v;                                                            \
   }
 
 @implementation NSValue (NSValueUIGeometryExtensions)

@@ -4,7 +4,9 @@
 @synthesize title = _title;
 @synthesize style = _style;
 @synthesize enabled = _enabled;
-+ (instancetype)actionWithTitle:(NSString *)title style:(UIAlertActionStyle)style handler:(void (^)(UIAlertAction *))handler {
++ (instancetype)actionWithTitle:(NSString *)title
+                          style:(UIAlertActionStyle)style
+                        handler:(void (^)(UIAlertAction *))handler {
   UIAlertAction *a = [[[self alloc] init] autorelease];
   a->_title = [title copy];
   a->_style = style;

@@ -4,14 +4,15 @@
 @synthesize preferredStyle = _preferredStyle;
 @synthesize preferredAction = _preferredAction;
 @synthesize message = _message;
-+ (instancetype)alertControllerWithTitle:(NSString *)title message:(NSString *)message
++ (instancetype)alertControllerWithTitle:(NSString *)title
+                                 message:(NSString *)message
                           preferredStyle:(UIAlertControllerStyle)preferredStyle {
   UIAlertController *a = [[[self alloc] initWithNibName:nil bundle:nil] autorelease];
   a.title = title;
   a.message = message;
   a->_preferredStyle = preferredStyle;
-  a.modalPresentationStyle = preferredStyle == UIAlertControllerStyleAlert ? UIModalPresentationOverFullScreen
-                                                                           : UIModalPresentationPopover;
+  a.modalPresentationStyle =
+      preferredStyle == UIAlertControllerStyleAlert ? UIModalPresentationOverFullScreen : UIModalPresentationPopover;
   return a;
 }
 - (instancetype)initWithNibName:(NSString *)nibNameOrNil bundle:(NSBundle *)nibBundleOrNil {
@@ -58,9 +59,10 @@
 - (void)_dismissAnimated:(BOOL)animated triggeringAction:(UIAlertAction *)action {
   void (^handler)(UIAlertAction *) = action.handler;
   [action retain];
-  [self dismissViewControllerAnimated:animated completion:^{
-    if (handler) handler(action);
-    [action release];
-  }];
+  [self dismissViewControllerAnimated:animated
+                           completion:^{
+                             if (handler) handler(action);
+                             [action release];
+                           }];
 }
 @end

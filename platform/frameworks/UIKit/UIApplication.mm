@@ -113,9 +113,7 @@ static BOOL SimOpenURL(UIApplication *app, NSURL *url, NSDictionary *options) {
 - (void)openURL:(NSURL *)url options:(NSDictionary *)options completionHandler:(void (^)(BOOL success))completion {
   BOOL ok = SimOpenURL(self, url, options ? options : [NSDictionary dictionary]);
   if (completion) {
-    SimUIKitSchedule(0, ^{
-      completion(ok);
-    });
+    SimUIKitSchedule(0, ^{ completion(ok); });
   }
 }
 - (BOOL)sendAction:(SEL)action to:(id)target from:(id)sender forEvent:(UIEvent *)event {
@@ -133,8 +131,7 @@ static BOOL SimOpenURL(UIApplication *app, NSURL *url, NSDictionary *options) {
 }
 @end
 
-void SimUIKitRegisterWindow(UIWindow *window) {
-}
+void SimUIKitRegisterWindow(UIWindow *window) {}
 
 // When a run-loop turn ends, iOS commits the turn's changes to the screen and lays out
 // whatever asked for layout in the windows on it: a table then has the cells of the rows

@@ -53,6 +53,7 @@
 @end
 
 BOOL SimTapBarButtonItem(UIBarButtonItem *item) {
-  if (!item || !item.enabled || !item.action || [[UIApplication sharedApplication] isIgnoringInteractionEvents]) return NO;
+  if (!item || !item.enabled || !item.action || [[UIApplication sharedApplication] isIgnoringInteractionEvents])
+    return NO;
   return [[UIApplication sharedApplication] sendAction:item.action to:item.target from:item forEvent:nil];
 }

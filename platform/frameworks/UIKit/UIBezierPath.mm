@@ -39,12 +39,17 @@
   CGPathAddRoundedRect(p->_path, NULL, rect, r, r);
   return p;
 }
-+ (instancetype)bezierPathWithRoundedRect:(CGRect)rect byRoundingCorners:(UIRectCorner)corners cornerRadii:(CGSize)radii {
++ (instancetype)bezierPathWithRoundedRect:(CGRect)rect
+                        byRoundingCorners:(UIRectCorner)corners
+                              cornerRadii:(CGSize)radii {
   UIBezierPath *p = [self bezierPath];
   CGPathAddRoundedRect(p->_path, NULL, rect, radii.width, radii.height);
   return p;
 }
-+ (instancetype)bezierPathWithArcCenter:(CGPoint)c radius:(CGFloat)r startAngle:(CGFloat)s endAngle:(CGFloat)e
++ (instancetype)bezierPathWithArcCenter:(CGPoint)c
+                                 radius:(CGFloat)r
+                             startAngle:(CGFloat)s
+                               endAngle:(CGFloat)e
                               clockwise:(BOOL)cw {
   UIBezierPath *p = [self bezierPath];
   [p addArcWithCenter:c radius:r startAngle:s endAngle:e clockwise:cw];

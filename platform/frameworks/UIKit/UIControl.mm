@@ -90,7 +90,8 @@
 - (NSArray *)actionsForTarget:(id)target forControlEvent:(UIControlEvents)event {
   NSMutableArray *out = [NSMutableArray array];
   for (NSArray *entry in _targetActions)
-    if ([[entry objectAtIndex:0] nonretainedObjectValue] == target && ([[entry objectAtIndex:2] unsignedIntegerValue] & event))
+    if ([[entry objectAtIndex:0] nonretainedObjectValue] == target &&
+        ([[entry objectAtIndex:2] unsignedIntegerValue] & event))
       [out addObject:[entry objectAtIndex:1]];
   return out.count ? out : nil;
 }
@@ -101,7 +102,8 @@
   [[self retain] autorelease];
   for (NSArray *entry in [[_targetActions copy] autorelease]) {
     if (!([[entry objectAtIndex:2] unsignedIntegerValue] & events)) continue;
-    [self sendAction:NSSelectorFromString([entry objectAtIndex:1]) to:[[entry objectAtIndex:0] nonretainedObjectValue]
+    [self sendAction:NSSelectorFromString([entry objectAtIndex:1])
+                  to:[[entry objectAtIndex:0] nonretainedObjectValue]
             forEvent:nil];
   }
 }

@@ -12,8 +12,10 @@
 }
 - (UIUserInterfaceIdiom)userInterfaceIdiom {
   id v = [SimUIKitProfile() objectForKey:@"idiom"];
-  if ([v isKindOfClass:[NSString class]]) return [v isEqualToString:@"pad"] ? UIUserInterfaceIdiomPad : UIUserInterfaceIdiomPhone;
-  return [v respondsToSelector:@selector(integerValue)] ? (UIUserInterfaceIdiom)[v integerValue] : UIUserInterfaceIdiomPhone;
+  if ([v isKindOfClass:[NSString class]])
+    return [v isEqualToString:@"pad"] ? UIUserInterfaceIdiomPad : UIUserInterfaceIdiomPhone;
+  return [v respondsToSelector:@selector(integerValue)] ? (UIUserInterfaceIdiom)[v integerValue]
+                                                        : UIUserInterfaceIdiomPhone;
 }
 - (NSString *)name {
   return [self _simProfileString:@"deviceName" fallback:@"iPhone"];

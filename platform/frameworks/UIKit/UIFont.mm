@@ -74,22 +74,42 @@ NSString *const UIFontTextStyleCaption1 = @"UICTFontTextStyleCaption1";
   if ([style isEqualToString:UIFontTextStyleHeadline]) return [self systemFontOfSize:17 weight:UIFontWeightSemibold];
   return [self systemFontOfSize:size];
 }
-+ (CGFloat)labelFontSize { return 17; }
-+ (CGFloat)buttonFontSize { return 18; }
-+ (CGFloat)smallSystemFontSize { return 12; }
-+ (CGFloat)systemFontSize { return 14; }
++ (CGFloat)labelFontSize {
+  return 17;
+}
++ (CGFloat)buttonFontSize {
+  return 18;
+}
++ (CGFloat)smallSystemFontSize {
+  return 12;
+}
++ (CGFloat)systemFontSize {
+  return 14;
+}
 - (UIFont *)fontWithSize:(CGFloat)fontSize {
   return [UIFont _simFontNamed:_fontName size:fontSize weight:_weight];
 }
 - (NSString *)familyName {
   return [_fontName hasPrefix:@".SFUI"] ? @".AppleSystemUIFont" : _fontName;
 }
-- (CGFloat)ascender { return round(_pointSize * 0.95 * 100) / 100; }
-- (CGFloat)descender { return -round(_pointSize * 0.25 * 100) / 100; }
-- (CGFloat)capHeight { return _pointSize * 0.7; }
-- (CGFloat)xHeight { return _pointSize * 0.52; }
-- (CGFloat)lineHeight { return ceil(_pointSize * 1.2); }
-- (CGFloat)leading { return 0; }
+- (CGFloat)ascender {
+  return round(_pointSize * 0.95 * 100) / 100;
+}
+- (CGFloat)descender {
+  return -round(_pointSize * 0.25 * 100) / 100;
+}
+- (CGFloat)capHeight {
+  return _pointSize * 0.7;
+}
+- (CGFloat)xHeight {
+  return _pointSize * 0.52;
+}
+- (CGFloat)lineHeight {
+  return ceil(_pointSize * 1.2);
+}
+- (CGFloat)leading {
+  return 0;
+}
 - (BOOL)isEqual:(id)other {
   return [other isKindOfClass:[UIFont class]] && [((UIFont *)other).fontName isEqualToString:_fontName] &&
          ((UIFont *)other).pointSize == _pointSize;

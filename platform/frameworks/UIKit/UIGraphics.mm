@@ -8,8 +8,8 @@
   NSMutableArray *_contexts;
   NSMutableArray *_imageContexts;
 }
-@property(nonatomic, readonly) NSMutableArray *contexts;
-@property(nonatomic, readonly) NSMutableArray *imageContexts;
+@property (nonatomic, readonly) NSMutableArray *contexts;
+@property (nonatomic, readonly) NSMutableArray *imageContexts;
 @end
 @implementation _SimContextStack
 @synthesize contexts = _contexts;

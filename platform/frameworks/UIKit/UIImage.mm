@@ -100,7 +100,8 @@ static CGFloat scaleFromFileName(NSString *path) {
 + (UIImage *)imageNamed:(NSString *)name inBundle:(NSBundle *)bundle {
   return [self imageNamed:name inBundle:bundle compatibleWithTraitCollection:nil];
 }
-+ (UIImage *)imageNamed:(NSString *)name inBundle:(NSBundle *)bundle
++ (UIImage *)imageNamed:(NSString *)name
+                         inBundle:(NSBundle *)bundle
     compatibleWithTraitCollection:(UITraitCollection *)traitCollection {
   if (![name isKindOfClass:[NSString class]] || !name.length) return nil;
   if (!bundle) bundle = [NSBundle mainBundle];
@@ -196,10 +197,14 @@ static CGFloat scaleFromFileName(NSString *path) {
 
 static CGFloat iconPoints(int format) {
   switch (format) {
-    case 0: return 29;
-    case 1: return 40;
-    case 2: return 60;
-    default: return 60;
+    case 0:
+      return 29;
+    case 1:
+      return 40;
+    case 2:
+      return 60;
+    default:
+      return 60;
   }
 }
 + (UIImage *)_simIconNamed:(NSString *)what format:(int)format scale:(CGFloat)scale {
@@ -210,7 +215,9 @@ static CGFloat iconPoints(int format) {
   CGImageRelease(image);
   return result;
 }
-+ (UIImage *)_applicationIconImageForBundleIdentifier:(NSString *)bundleIdentifier format:(int)format scale:(CGFloat)scale {
++ (UIImage *)_applicationIconImageForBundleIdentifier:(NSString *)bundleIdentifier
+                                               format:(int)format
+                                                scale:(CGFloat)scale {
   if (![bundleIdentifier isKindOfClass:[NSString class]] || !bundleIdentifier.length) return nil;
   return [self _simIconNamed:[@"appicon:" stringByAppendingString:bundleIdentifier] format:format scale:scale];
 }

@@ -27,10 +27,10 @@ CGSize SimUIKitTextSize(NSString *text, UIFont *font, CGFloat maxWidth, NSIntege
   NSMutableArray *_urlOptions;
   NSMutableArray *_animations;
 }
-@property(nonatomic, readonly) NSMutableArray *sounds;
-@property(nonatomic, readonly) NSMutableArray *urls;
-@property(nonatomic, readonly) NSMutableArray *urlOptions;
-@property(nonatomic, readonly) NSMutableArray *animations;
+@property (nonatomic, readonly) NSMutableArray *sounds;
+@property (nonatomic, readonly) NSMutableArray *urls;
+@property (nonatomic, readonly) NSMutableArray *urlOptions;
+@property (nonatomic, readonly) NSMutableArray *animations;
 @end
 
 #ifdef __cplusplus
@@ -77,4 +77,38 @@ void SimUIKitSetKeyWindow(UIWindow *window);
 
 @interface UIGestureRecognizer (SimInternal)
 - (BOOL)_simRecognizeTap:(UITouch *)touch;
+@end
+
+@interface UITextField (SimInternal)
+/* A change of the text as typing makes it: the delegate may refuse it; EditingChanged follows. */
+- (void)_simReplaceRange:(NSRange)range with:(NSString *)string;
+@end
+
+@interface UISearchBar (SimInternal)
+/* The search controller the bar belongs to (not retained). */
+- (id)_simSearchController;
+- (void)_simSetSearchController:(id)controller;
+@end
+
+@interface UISearchController (SimInternal)
+- (void)_simSearchBarDidBeginEditing:(UISearchBar *)bar;
+- (void)_simSearchBarTextDidChange:(UISearchBar *)bar;
+- (void)_simSearchBarCancelled:(UISearchBar *)bar;
+@end
+
+/* The section index a table shows (UIKit's private UITableViewIndex). */
+@interface UITableViewIndex : UIControl {
+  NSArray *_titles;
+  NSInteger _selectedSection;
+}
+@property (nonatomic, copy) NSArray *titles;
+@property (nonatomic, readonly) NSInteger selectedSection;
+@property (nonatomic, readonly) NSString *selectedSectionTitle;
+/* A touch on the title at `position`: selects it and sends the value-changed action. */
+- (void)_simSelect:(NSInteger)position;
+@end
+
+@interface UITableView (SimSectionIndex)
+/* Places the section index along the visible right edge (layout). */
+- (void)_simLayOutSectionIndex;
 @end

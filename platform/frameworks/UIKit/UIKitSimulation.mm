@@ -51,10 +51,9 @@ void SimUIKitRecordURL(NSURL *url, NSDictionary *options) {
   [SimUIKitRecords().urlOptions addObject:options ? (id)options : (id)[NSNull null]];
 }
 void SimUIKitRecordAnimation(NSTimeInterval duration, NSTimeInterval delay, NSUInteger options) {
-  NSDictionary *d = [NSDictionary dictionaryWithObjectsAndKeys:[NSNumber numberWithDouble:duration], @"duration",
-                                                               [NSNumber numberWithDouble:delay], @"delay",
-                                                               [NSNumber numberWithUnsignedInteger:options],
-                                                               @"options", nil];
+  NSDictionary *d = [NSDictionary
+      dictionaryWithObjectsAndKeys:[NSNumber numberWithDouble:duration], @"duration", [NSNumber numberWithDouble:delay],
+                                   @"delay", [NSNumber numberWithUnsignedInteger:options], @"options", nil];
   [SimUIKitRecords().animations addObject:d];
 }
 

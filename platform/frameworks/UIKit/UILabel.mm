@@ -109,10 +109,12 @@
 }
 - (CGRect)textRectForBounds:(CGRect)bounds limitedToNumberOfLines:(NSInteger)n {
   CGSize s = SimUIKitTextSize(_text, _font, bounds.size.width, n);
-  return CGRectMake(bounds.origin.x, bounds.origin.y, fmin(s.width, bounds.size.width), fmin(s.height, bounds.size.height));
+  return CGRectMake(bounds.origin.x, bounds.origin.y, fmin(s.width, bounds.size.width),
+                    fmin(s.height, bounds.size.height));
 }
 - (void)drawTextInRect:(CGRect)rect {
-  if (_text.length) [_text drawInRect:rect withAttributes:[NSDictionary dictionaryWithObject:_font forKey:NSFontAttributeName]];
+  if (_text.length)
+    [_text drawInRect:rect withAttributes:[NSDictionary dictionaryWithObject:_font forKey:NSFontAttributeName]];
 }
 - (void)drawRect:(CGRect)rect {
   [self drawTextInRect:rect];

@@ -23,6 +23,7 @@
   [_backBarButtonItem release];
   [_leftBarButtonItems release];
   [_rightBarButtonItems release];
+  [_searchController release];
   [super dealloc];
 }
 - (void)setHidesBackButton:(BOOL)hidden animated:(BOOL)animated {

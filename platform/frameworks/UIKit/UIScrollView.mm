@@ -40,8 +40,10 @@
   CGRect b = self.bounds;
   if (CGRectContainsRect(b, rect)) return;
   CGPoint o = b.origin;
-  if (rect.origin.y < b.origin.y) o.y = rect.origin.y;
-  else if (CGRectGetMaxY(rect) > CGRectGetMaxY(b)) o.y = CGRectGetMaxY(rect) - b.size.height;
+  if (rect.origin.y < b.origin.y)
+    o.y = rect.origin.y;
+  else if (CGRectGetMaxY(rect) > CGRectGetMaxY(b))
+    o.y = CGRectGetMaxY(rect) - b.size.height;
   self.contentOffset = o;
 }
 @end

@@ -1,11 +1,47 @@
 #import "UIKitInternal.h"
 #include <math.h>
 
+#include <vector>
+
 const CGFloat UITableViewAutomaticDimension = -1;
+
+// What the table measured since its data was loaded, as UIKit keeps its row data: each
+// section's header, rows and footer, asked of the delegate once, and where each begins.
+struct _SimTableGeometry {
+  CGFloat top = 0;  // below the table header view
+  std::vector<CGFloat> header, footer;
+  std::vector<std::vector<CGFloat>> rows;
+  std::vector<CGFloat> sectionTop;
+  std::vector<std::vector<CGFloat>> rowTop;  // from the section's first row
+  bool summed = false;
+
+  void sum() {
+    if (summed) return;
+    sectionTop.assign(header.size(), 0);
+    rowTop.assign(header.size(), {});
+    CGFloat y = top;
+    for (size_t s = 0; s < header.size(); ++s) {
+      sectionTop[s] = y;
+      CGFloat inside = 0;
+      rowTop[s].resize(rows[s].size());
+      for (size_t r = 0; r < rows[s].size(); ++r) {
+        rowTop[s][r] = inside;
+        inside += rows[s][r];
+      }
+      y += header[s] + inside + footer[s];
+    }
+    summed = true;
+  }
+  CGFloat sectionHeight(size_t s) const {
+    return header[s] + (rows[s].empty() ? 0 : rowTop[s].back() + rows[s].back()) + footer[s];
+  }
+  bool has(NSInteger s, NSInteger r) const {
+    return s >= 0 && (size_t)s < rows.size() && r >= 0 && (size_t)r < rows[s].size();
+  }
+};
 
 @implementation UITableView
 @synthesize style = _style;
-@synthesize dataSource = _dataSource;
 @dynamic delegate;
 @synthesize estimatedRowHeight = _estimatedRowHeight;
 @synthesize separatorStyle = _separatorStyle;
@@ -31,8 +67,8 @@ const CGFloat UITableViewAutomaticDimension = -1;
     _reusableCells = [[NSMutableDictionary alloc] init];
     _registeredClasses = [[NSMutableDictionary alloc] init];
     self.alwaysBounceVertical = YES;
-    self.backgroundColor = style == UITableViewStylePlain ? [UIColor systemBackgroundColor]
-                                                          : [UIColor systemGroupedBackgroundColor];
+    self.backgroundColor =
+        style == UITableViewStylePlain ? [UIColor systemBackgroundColor] : [UIColor systemGroupedBackgroundColor];
   }
   return self;
 }
@@ -45,6 +81,7 @@ const CGFloat UITableViewAutomaticDimension = -1;
   [_reusableCells release];
   [_registeredClasses release];
   [_selectedIndexPath release];
+  delete _geometry;
   [super dealloc];
 }
 - (CGFloat)rowHeight {
@@ -52,18 +89,21 @@ const CGFloat UITableViewAutomaticDimension = -1;
 }
 - (void)setRowHeight:(CGFloat)h {
   _rowHeight = h;
+  [self _simForgetGeometry];
 }
 - (CGFloat)sectionHeaderHeight {
   return _sectionHeaderHeight;
 }
 - (void)setSectionHeaderHeight:(CGFloat)h {
   _sectionHeaderHeight = h;
+  [self _simForgetGeometry];
 }
 - (CGFloat)sectionFooterHeight {
   return _sectionFooterHeight;
 }
 - (void)setSectionFooterHeight:(CGFloat)h {
   _sectionFooterHeight = h;
+  [self _simForgetGeometry];
 }
 - (UIView *)tableHeaderView {
   return _tableHeaderView;
@@ -73,6 +113,7 @@ const CGFloat UITableViewAutomaticDimension = -1;
   [_tableHeaderView removeFromSuperview];
   [_tableHeaderView release];
   _tableHeaderView = [view retain];
+  [self _simForgetGeometry];
   if (view) {
     CGRect f = view.frame;
     view.frame = CGRectMake(0, 0, self.bounds.size.width, f.size.height);
@@ -117,8 +158,9 @@ const CGFloat UITableViewAutomaticDimension = -1;
 }
 - (CGFloat)_simHeightForRow:(NSIndexPath *)path {
   id<UITableViewDelegate> d = self.delegate;
-  CGFloat h = [d respondsToSelector:@selector(tableView:heightForRowAtIndexPath:)] ? [d tableView:self heightForRowAtIndexPath:path]
-                                                                                   : _rowHeight;
+  CGFloat h = [d respondsToSelector:@selector(tableView:heightForRowAtIndexPath:)]
+                  ? [d tableView:self heightForRowAtIndexPath:path]
+                  : _rowHeight;
   return h < 0 ? 44 : h;
 }
 - (CGFloat)_simHeightForHeader:(NSInteger)section {
@@ -154,24 +196,69 @@ const CGFloat UITableViewAutomaticDimension = -1;
   CGSize s = SimUIKitTextSize(title, [UIFont systemFontOfSize:13], self.bounds.size.width - 64, 0);
   return s.height + 17;
 }
-- (CGRect)rectForSection:(NSInteger)section {
-  CGFloat y = _tableHeaderView ? _tableHeaderView.frame.size.height : 0;
-  NSInteger n = self.numberOfSections;
-  for (NSInteger s = 0; s < n; ++s) {
-    CGFloat h = [self _simHeightForHeader:s] + [self _simHeightForFooter:s];
-    NSInteger rows = [self numberOfRowsInSection:s];
-    for (NSInteger r = 0; r < rows; ++r) h += [self _simHeightForRow:[NSIndexPath indexPathForRow:r inSection:s]];
-    if (s == section) return CGRectMake(0, y, self.bounds.size.width, h);
-    y += h;
+// The measures, taken when first needed after they were forgotten.
+- (_SimTableGeometry *)_simGeometry {
+  if (_geometry == NULL) {
+    _SimTableGeometry *g = new _SimTableGeometry();
+    g->top = _tableHeaderView ? _tableHeaderView.frame.size.height : 0;
+    const NSInteger n = self.numberOfSections;
+    for (NSInteger s = 0; s < n; ++s) {
+      g->header.push_back([self _simHeightForHeader:s]);
+      g->footer.push_back([self _simHeightForFooter:s]);
+      g->rows.emplace_back();
+      const NSInteger rows = [_dataSource tableView:self numberOfRowsInSection:s];
+      for (NSInteger r = 0; r < rows; ++r)
+        g->rows.back().push_back([self _simHeightForRow:[NSIndexPath indexPathForRow:r inSection:s]]);
+    }
+    _geometry = g;
   }
-  return CGRectZero;
+  _geometry->sum();
+  return _geometry;
+}
+- (void)_simForgetGeometry {
+  delete _geometry;
+  _geometry = NULL;
+}
+- (void)_simMeasureRowAgain:(NSIndexPath *)path {
+  if (_geometry == NULL || !_geometry->has(path.section, path.row)) return;
+  const CGFloat height = [self _simHeightForRow:path];
+  if (height == _geometry->rows[path.section][path.row]) return;
+  _geometry->rows[path.section][path.row] = height;
+  _geometry->summed = false;
+  [self _simUpdateContentSize];
+}
+- (void)_simUpdateContentSize {
+  _SimTableGeometry *g = [self _simGeometry];
+  CGFloat bottom = g->top;
+  if (!g->header.empty()) bottom = g->sectionTop.back() + g->sectionHeight(g->header.size() - 1);
+  self.contentSize =
+      CGSizeMake(self.bounds.size.width, bottom + (_tableFooterView ? _tableFooterView.frame.size.height : 0));
+}
+- (CGRect)rectForSection:(NSInteger)section {
+  _SimTableGeometry *g = [self _simGeometry];
+  if (section < 0 || (size_t)section >= g->header.size()) return CGRectZero;
+  return CGRectMake(0, g->sectionTop[section], self.bounds.size.width, g->sectionHeight(section));
 }
 - (CGRect)rectForRowAtIndexPath:(NSIndexPath *)path {
-  if (![self _simValidIndexPath:path]) return CGRectZero;
-  CGRect section = [self rectForSection:path.section];
-  CGFloat y = section.origin.y + [self _simHeightForHeader:path.section];
-  for (NSInteger r = 0; r < path.row; ++r) y += [self _simHeightForRow:[NSIndexPath indexPathForRow:r inSection:path.section]];
-  return CGRectMake(0, y, self.bounds.size.width, [self _simHeightForRow:path]);
+  _SimTableGeometry *g = [self _simGeometry];
+  if (!path || !g->has(path.section, path.row)) return CGRectZero;
+  const CGFloat y = g->sectionTop[path.section] + g->header[path.section] + g->rowTop[path.section][path.row];
+  return CGRectMake(0, y, self.bounds.size.width, g->rows[path.section][path.row]);
+}
+- (void)setFrame:(CGRect)frame {
+  if (frame.size.width != self.frame.size.width) [self _simForgetGeometry];
+  [super setFrame:frame];
+}
+- (void)setBounds:(CGRect)bounds {
+  if (bounds.size.width != self.bounds.size.width) [self _simForgetGeometry];
+  [super setBounds:bounds];
+}
+- (id)dataSource {
+  return _dataSource;
+}
+- (void)setDataSource:(id)dataSource {
+  _dataSource = dataSource;
+  [self _simForgetGeometry];
 }
 - (NSIndexPath *)indexPathForRowAtPoint:(CGPoint)point {
   NSInteger n = self.numberOfSections;
@@ -206,8 +293,9 @@ const CGFloat UITableViewAutomaticDimension = -1;
   [self _simDropVisibleCells];
   [_selectedIndexPath release];
   _selectedIndexPath = nil;
-  CGRect last = [self rectForSection:self.numberOfSections - 1];
-  self.contentSize = CGSizeMake(self.bounds.size.width, CGRectGetMaxY(last) + (_tableFooterView ? _tableFooterView.frame.size.height : 0));
+  [self _simForgetGeometry];
+  [self _simUpdateContentSize];
+  [self reloadSectionIndexTitles];
   [self setNeedsLayout];
 }
 - (void)reloadSections:(NSIndexSet *)sections withRowAnimation:(UITableViewRowAnimation)animation {
@@ -220,6 +308,7 @@ const CGFloat UITableViewAutomaticDimension = -1;
     if (cell.superview == self) [cell removeFromSuperview];
     [_visibleCells removeObjectForKey:p];
   }
+  for (NSIndexPath *p in paths) [self _simMeasureRowAgain:p];
 }
 - (void)insertSections:(NSIndexSet *)s withRowAnimation:(UITableViewRowAnimation)a {
   [self reloadData];
@@ -238,14 +327,19 @@ const CGFloat UITableViewAutomaticDimension = -1;
 }
 - (void)endUpdates {
   if (_updateDepth > 0) --_updateDepth;
+  if (_updateDepth > 0) return;
+  [self _simForgetGeometry];  // heights are asked again, as UIKit does after updates
+  [self _simUpdateContentSize];
+  [self setNeedsLayout];
 }
 - (UITableViewCell *)cellForRowAtIndexPath:(NSIndexPath *)path {
-  if (![self _simValidIndexPath:path]) return nil;
+  if (!path || ![self _simGeometry]->has(path.section, path.row)) return nil;
   NSIndexPath *key = [NSIndexPath indexPathForRow:path.row inSection:path.section];
   UITableViewCell *cell = [_visibleCells objectForKey:key];
   if (cell) return cell;
   cell = [_dataSource tableView:self cellForRowAtIndexPath:key];
   if (!cell) return nil;
+  [self _simMeasureRowAgain:key];  // the row's cell may know its height better
   // A cell shown for another row moves here.
   for (NSIndexPath *other in [_visibleCells allKeysForObject:cell]) [_visibleCells removeObjectForKey:other];
   for (NSString *rid in _reusableCells) [[_reusableCells objectForKey:rid] removeObjectIdenticalTo:cell];
@@ -273,13 +367,36 @@ const CGFloat UITableViewAutomaticDimension = -1;
 }
 - (UIView *)headerViewForSection:(NSInteger)section {
   id<UITableViewDelegate> d = self.delegate;
-  return [d respondsToSelector:@selector(tableView:viewForHeaderInSection:)] ? [d tableView:self viewForHeaderInSection:section] : nil;
+  return [d respondsToSelector:@selector(tableView:viewForHeaderInSection:)]
+             ? [d tableView:self viewForHeaderInSection:section]
+             : nil;
 }
 - (UIView *)footerViewForSection:(NSInteger)section {
   id<UITableViewDelegate> d = self.delegate;
-  return [d respondsToSelector:@selector(tableView:viewForFooterInSection:)] ? [d tableView:self viewForFooterInSection:section] : nil;
+  return [d respondsToSelector:@selector(tableView:viewForFooterInSection:)]
+             ? [d tableView:self viewForFooterInSection:section]
+             : nil;
 }
-- (void)scrollToRowAtIndexPath:(NSIndexPath *)path atScrollPosition:(UITableViewScrollPosition)pos animated:(BOOL)animated {
+// The row (for a row NSNotFound, the section from its header) brought to the asked place on
+// screen, the offset kept within the content.
+- (void)scrollToRowAtIndexPath:(NSIndexPath *)path
+              atScrollPosition:(UITableViewScrollPosition)pos
+                      animated:(BOOL)animated {
+  if (!path || path.section < 0 || path.section >= self.numberOfSections) return;
+  if (path.row != NSNotFound && ![self _simValidIndexPath:path]) return;
+  CGRect target = path.row == NSNotFound ? [self rectForSection:path.section] : [self rectForRowAtIndexPath:path];
+  CGRect visible = self.bounds;
+  UIEdgeInsets inset = self.contentInset;
+  CGFloat y = visible.origin.y, height = visible.size.height - inset.top - inset.bottom;
+  if (pos == UITableViewScrollPositionNone)
+    pos = target.origin.y < y + inset.top                  ? UITableViewScrollPositionTop
+          : CGRectGetMaxY(target) > y + inset.top + height ? UITableViewScrollPositionBottom
+                                                           : UITableViewScrollPositionNone;
+  if (pos == UITableViewScrollPositionTop) y = target.origin.y - inset.top;
+  if (pos == UITableViewScrollPositionMiddle) y = CGRectGetMidY(target) - height / 2 - inset.top;
+  if (pos == UITableViewScrollPositionBottom) y = CGRectGetMaxY(target) - height - inset.top;
+  CGFloat lowest = -inset.top, highest = fmax(self.contentSize.height + inset.bottom - visible.size.height, lowest);
+  [self setContentOffset:CGPointMake(visible.origin.x, fmin(fmax(y, lowest), highest)) animated:animated];
 }
 
 #pragma mark - Selection
@@ -376,6 +493,7 @@ const CGFloat UITableViewAutomaticDimension = -1;
     cell.frame = [self rectForRowAtIndexPath:p];
   }
   [self _simLayOutVisibleRows];
+  [self _simLayOutSectionIndex];
 }
 @end
 
@@ -394,14 +512,16 @@ BOOL SimTableViewSelectRow(UITableView *table, NSIndexPath *path) {
     if (!path) return NO;
   }
   [table selectRowAtIndexPath:path animated:NO scrollPosition:UITableViewScrollPositionNone];
-  if ([d respondsToSelector:@selector(tableView:didSelectRowAtIndexPath:)]) [d tableView:table didSelectRowAtIndexPath:path];
+  if ([d respondsToSelector:@selector(tableView:didSelectRowAtIndexPath:)])
+    [d tableView:table didSelectRowAtIndexPath:path];
   return YES;
 }
 
 BOOL SimTableViewCommitEditing(UITableView *table, UITableViewCellEditingStyle style, NSIndexPath *path) {
   if (!table || !path || [[UIApplication sharedApplication] isIgnoringInteractionEvents]) return NO;
   id<UITableViewDataSource> ds = table.dataSource;
-  if ([ds respondsToSelector:@selector(tableView:canEditRowAtIndexPath:)] && ![ds tableView:table canEditRowAtIndexPath:path])
+  if ([ds respondsToSelector:@selector(tableView:canEditRowAtIndexPath:)] && ![ds tableView:table
+                                                                                 canEditRowAtIndexPath:path])
     return NO;
   if (![ds respondsToSelector:@selector(tableView:commitEditingStyle:forRowAtIndexPath:)]) return NO;
   [ds tableView:table commitEditingStyle:style forRowAtIndexPath:path];

@@ -229,7 +229,8 @@
   if (!separator) separator = [UIColor separatorColor];
   CGFloat line = 1.0 / [UIScreen mainScreen].scale;
   _separatorView.backgroundColor = separator;
-  _separatorView.frame = CGRectMake(_separatorInset.left, h - line, fmax(w - _separatorInset.left - _separatorInset.right, 0), line);
+  _separatorView.frame =
+      CGRectMake(_separatorInset.left, h - line, fmax(w - _separatorInset.left - _separatorInset.right, 0), line);
   _separatorView.hidden = table && table.separatorStyle == UITableViewCellSeparatorStyleNone;
   [self bringSubviewToFront:_separatorView];
 }

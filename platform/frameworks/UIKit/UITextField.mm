@@ -76,7 +76,8 @@
 - (BOOL)becomeFirstResponder {
   if (self.isFirstResponder) return YES;
   if (![self canBecomeFirstResponder]) return NO;
-  if ([_delegate respondsToSelector:@selector(textFieldShouldBeginEditing:)] && ![_delegate textFieldShouldBeginEditing:self])
+  if ([_delegate respondsToSelector:@selector(textFieldShouldBeginEditing:)] &&
+      ![_delegate textFieldShouldBeginEditing:self])
     return NO;
   if (![super becomeFirstResponder]) return NO;
   _editing = YES;
@@ -86,7 +87,8 @@
   return YES;
 }
 - (BOOL)canResignFirstResponder {
-  if ([_delegate respondsToSelector:@selector(textFieldShouldEndEditing:)]) return [_delegate textFieldShouldEndEditing:self];
+  if ([_delegate respondsToSelector:@selector(textFieldShouldEndEditing:)])
+    return [_delegate textFieldShouldEndEditing:self];
   return YES;
 }
 - (BOOL)resignFirstResponder {

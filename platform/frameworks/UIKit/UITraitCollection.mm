@@ -11,8 +11,8 @@
   t->_userInterfaceStyle = SimUIKitDarkMode() ? UIUserInterfaceStyleDark : UIUserInterfaceStyleLight;
   t->_userInterfaceIdiom = [UIDevice currentDevice].userInterfaceIdiom;
   t->_displayScale = SimUIKitScreenScale();
-  t->_horizontalSizeClass =
-      t->_userInterfaceIdiom == UIUserInterfaceIdiomPad ? UIUserInterfaceSizeClassRegular : UIUserInterfaceSizeClassCompact;
+  t->_horizontalSizeClass = t->_userInterfaceIdiom == UIUserInterfaceIdiomPad ? UIUserInterfaceSizeClassRegular
+                                                                              : UIUserInterfaceSizeClassCompact;
   t->_verticalSizeClass = UIUserInterfaceSizeClassRegular;
   return t;
 }

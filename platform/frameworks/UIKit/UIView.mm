@@ -26,9 +26,9 @@ const CGFloat UIViewNoIntrinsicMetric = -1;
 }
 // As UIKit documents it: forced attributes decide; playback and spatial controls stay left to
 // right; everything else follows the given (or the application's) direction.
-+ (UIUserInterfaceLayoutDirection)userInterfaceLayoutDirectionForSemanticContentAttribute:
-                                      (UISemanticContentAttribute)attribute
-                                                      relativeToLayoutDirection:(UIUserInterfaceLayoutDirection)direction {
++ (UIUserInterfaceLayoutDirection)
+    userInterfaceLayoutDirectionForSemanticContentAttribute:(UISemanticContentAttribute)attribute
+                                  relativeToLayoutDirection:(UIUserInterfaceLayoutDirection)direction {
   switch (attribute) {
     case UISemanticContentAttributeForceRightToLeft:
       return UIUserInterfaceLayoutDirectionRightToLeft;
@@ -289,7 +289,8 @@ const CGFloat UIViewNoIntrinsicMetric = -1;
   [view release];
 }
 - (void)addSubview:(UIView *)view {
-  [self insertSubview:view atIndex:(view->_superview == self ? (NSInteger)_subviews.count - 1 : (NSInteger)_subviews.count)];
+  [self insertSubview:view
+              atIndex:(view->_superview == self ? (NSInteger)_subviews.count - 1 : (NSInteger)_subviews.count)];
 }
 // Just below or above `sibling`, counting places as if `view` had already left this view;
 // on top when `sibling` is not a subview.
@@ -437,7 +438,8 @@ const CGFloat UIViewNoIntrinsicMetric = -1;
 - (void)invalidateIntrinsicContentSize {
 }
 - (BOOL)endEditing:(BOOL)force {
-  if ([SimUIKitFirstResponder() isKindOfClass:[UIView class]] && [(UIView *)SimUIKitFirstResponder() isDescendantOfView:self])
+  if ([SimUIKitFirstResponder() isKindOfClass:[UIView class]] &&
+      [(UIView *)SimUIKitFirstResponder() isDescendantOfView:self])
     return [SimUIKitFirstResponder() resignFirstResponder];
   return YES;
 }

@@ -215,7 +215,8 @@ enum { kDisappeared = 0, kAppearing = 1, kAppeared = 2, kDisappearing = 3 };
   if (!vc) return;
   UIViewController *host = [self _simPresentationHost];
   if (host->_presentedViewController) {
-    NSLog(@"Warning: Attempt to present %@ on %@ which is already presenting %@", vc, host, host->_presentedViewController);
+    NSLog(@"Warning: Attempt to present %@ on %@ which is already presenting %@", vc, host,
+          host->_presentedViewController);
     return;
   }
   if (vc->_presentingViewController || vc->_parentViewController) {
@@ -301,7 +302,8 @@ enum { kDisappeared = 0, kAppearing = 1, kAppeared = 2, kDisappearing = 3 };
   _editing = editing;
 }
 - (id)editButtonItem {
-  return [[[UIBarButtonItem alloc] initWithBarButtonSystemItem:UIBarButtonSystemItemEdit target:self
+  return [[[UIBarButtonItem alloc] initWithBarButtonSystemItem:UIBarButtonSystemItemEdit
+                                                        target:self
                                                         action:@selector(_simToggleEditing:)] autorelease];
 }
 - (void)_simToggleEditing:(id)sender {
@@ -316,8 +318,9 @@ enum { kDisappeared = 0, kAppearing = 1, kAppeared = 2, kDisappearing = 3 };
   return YES;
 }
 - (UIInterfaceOrientationMask)supportedInterfaceOrientations {
-  return [UIDevice currentDevice].userInterfaceIdiom == UIUserInterfaceIdiomPad ? UIInterfaceOrientationMaskAll
-                                                                                : UIInterfaceOrientationMaskAllButUpsideDown;
+  return [UIDevice currentDevice].userInterfaceIdiom == UIUserInterfaceIdiomPad
+             ? UIInterfaceOrientationMaskAll
+             : UIInterfaceOrientationMaskAllButUpsideDown;
 }
 - (UIInterfaceOrientation)preferredInterfaceOrientationForPresentation {
   return UIInterfaceOrientationPortrait;

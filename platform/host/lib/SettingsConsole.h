@@ -17,6 +17,8 @@
 //   pasteboard            print what the general pasteboard holds
 //   text N "WORDS"        type into a text row and end editing
 //   press TITLE           the page's bar button with that title
+//   search WORDS          type WORDS into the page's search field; search alone: its Cancel
+//   index L               touch letter L of the page's section index
 //   wait SECONDS          let the app run (animations, delayed work)
 //   show                  print the screen again
 //   quit                  leave
@@ -51,7 +53,7 @@
 - (void)settle;
 
 // YES once "quit" ran.
-@property(nonatomic, assign) BOOL finished;
+@property (nonatomic, assign) BOOL finished;
 // Longest time one settle may take (seconds; default 3).
-@property(nonatomic, assign) double settleLimit;
+@property (nonatomic, assign) double settleLimit;
 @end

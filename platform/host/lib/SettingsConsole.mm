@@ -72,6 +72,9 @@ static void performOn(id target, SEL action, id argument) {
           "  pasteboard         show what the pasteboard holds\n"
           "  text N \"words\"     type into a text row (replacing its text) and end editing\n"
           "  press TITLE        press the page's bar button with that title (press Save)\n"
+          "  search WORDS       type WORDS into the page's search field (replacing what it holds)\n"
+          "  search             clear the search: its Cancel button (the whole list again)\n"
+          "  index L            touch letter L of the page's index (A to Z, #): jump there\n"
           "  wait SECONDS       let the app run (animations, delayed work)\n"
           "  show               print the screen again\n"
           "  icons              list the rows with their switch state and icon\n"
@@ -133,8 +136,9 @@ static void performOn(id target, SEL action, id argument) {
     return nil;
   }
   if (number == 0 || number > [items count]) {
-    *error = [items count] == 0 ? @"There is nothing numbered on this screen."
-                                : [NSString stringWithFormat:@"Choose a number from 1 to %lu.", (unsigned long)[items count]];
+    *error = [items count] == 0
+                 ? @"There is nothing numbered on this screen."
+                 : [NSString stringWithFormat:@"Choose a number from 1 to %lu.", (unsigned long)[items count]];
     return nil;
   }
   return [items objectAtIndex:number - 1];
@@ -148,7 +152,8 @@ static void performOn(id target, SEL action, id argument) {
   if (next == nil) return [NSString stringWithFormat:@"%@ could not be created.", NSStringFromClass(pageClass)];
   if ([next isKindOfClass:[PSViewController class]]) {
     PSViewController *settingsPage = (PSViewController *)next;
-    if ([page isKindOfClass:[PSViewController class]]) [settingsPage setRootController:[(PSViewController *)page rootController]];
+    if ([page isKindOfClass:[PSViewController class]])
+      [settingsPage setRootController:[(PSViewController *)page rootController]];
     [settingsPage setParentController:page];
     [settingsPage setSpecifier:specifier];
   }
@@ -326,7 +331,7 @@ static UITextField *focusedTextField(UIView *view) {
     return nil;
   }
   return [holder isKindOfClass:[PSSplitViewController class]] ? @"The Settings list is beside this page already."
-                                                             : @"This is the Settings list already.";
+                                                              : @"This is the Settings list already.";
 }
 
 - (NSString *)cancel {
@@ -358,7 +363,8 @@ static UITextField *focusedTextField(UIView *view) {
   UIViewController *page = [item controller];
   if (![page isKindOfClass:[PSEditableListController class]]) return @"Rows of this page cannot be deleted.";
   if ([item footerLink]) return @"That is a footer link, not a row.";
-  return SimEditableListSwipeToDelete((PSListController *)page, [item specifier]) ? nil : @"That row cannot be deleted.";
+  return SimEditableListSwipeToDelete((PSListController *)page, [item specifier]) ? nil
+                                                                                  : @"That row cannot be deleted.";
 }
 
 - (NSString *)touch:(SettingsScreenItem *)item at:(NSString *)where {
@@ -432,6 +438,42 @@ static UITextField *focusedTextField(UIView *view) {
     return SimTapBarButtonItem(button) ? nil : @"The bar button did not respond.";
   }
   return [NSString stringWithFormat:@"This page has no bar button \"%@\".", title];
+}
+
+// The page's search bar, or why there is none.
+- (UISearchBar *)searchBar:(NSString **)problem {
+  UIViewController *page = [[self screen] page];
+  UISearchController *search = [[page navigationItem] searchController];
+  if (search == nil) *problem = @"This page has no search field.";
+  return [search searchBar];
+}
+
+// Types into the page's search field as a person does: the field takes the keyboard, what
+// it holds goes with its clear button, then the words one key at a time.
+- (NSString *)search:(NSString *)words {
+  NSString *problem = nil;
+  UISearchBar *bar = [self searchBar:&problem];
+  if (bar == nil) return problem;
+  if ([words length] == 0) {
+    if (![[[bar searchTextField] text] length] && ![bar isFirstResponder]) return @"The search field is empty.";
+    return SimSearchBarTapCancel(bar) ? nil : @"The search field has no Cancel button now.";
+  }
+  if (!SimSearchBarClear(bar)) return @"The search field would not clear.";
+  return SimSearchBarType(bar, words) ? nil : @"The search field does not take the keyboard.";
+}
+
+// A touch on one letter of the page's section index.
+- (NSString *)index:(NSString *)letter {
+  UIViewController *page = [[self screen] page];
+  UITableView *table = [page isKindOfClass:[PSListController class]] ? [(PSListController *)page table] : nil;
+  NSArray *titles = SimTableViewSectionIndexTitles(table);
+  if ([titles count] == 0) return @"This page shows no index.";
+  for (NSString *title in titles) {
+    if ([title caseInsensitiveCompare:letter] != NSOrderedSame) continue;
+    return SimTableViewTapSectionIndex(table, title) ? nil : @"The index did not respond.";
+  }
+  return [NSString
+      stringWithFormat:@"The index has no \"%@\": it shows %@.", letter, [titles componentsJoinedByString:@" "]];
 }
 
 - (BOOL)openEntryNamed:(NSString *)label {
@@ -517,8 +559,9 @@ static UITextField *focusedTextField(UIView *view) {
   } else if ([verb isEqualToString:@"tap"] && count == 3) {
     SettingsScreenItem *item = [self itemNumbered:[words objectAtIndex:1] error:&problem];
     if (item != nil) {
-      problem = [[self screen] alert] != nil ? @"Answer the alert first (alert N)."
-                                             : SettingsIconRowTap([item specifier], [item controller], [words objectAtIndex:2]);
+      problem = [[self screen] alert] != nil
+                    ? @"Answer the alert first (alert N)."
+                    : SettingsIconRowTap([item specifier], [item controller], [words objectAtIndex:2]);
     }
   } else if ([verb isEqualToString:@"flip"] && count == 2) {
     SettingsScreenItem *item = [self itemNumbered:[words objectAtIndex:1] error:&problem];
@@ -552,12 +595,13 @@ static UITextField *focusedTextField(UIView *view) {
     problem = [self cancel];
   } else if ([verb isEqualToString:@"delete"] && count == 2) {
     SettingsScreenItem *item = [self itemNumbered:[words objectAtIndex:1] error:&problem];
-    if (item != nil) problem = [[self screen] alert] != nil ? @"Answer the alert first (alert N)." : [self deleteRow:item];
+    if (item != nil)
+      problem = [[self screen] alert] != nil ? @"Answer the alert first (alert N)." : [self deleteRow:item];
   } else if ([verb isEqualToString:@"touch"] && count == 3) {
     SettingsScreenItem *item = [self itemNumbered:[words objectAtIndex:1] error:&problem];
     if (item != nil) {
       problem = [[self screen] alert] != nil ? @"Answer the alert first (alert N)."
-                                              : [self touch:item at:[words objectAtIndex:2]];
+                                             : [self touch:item at:[words objectAtIndex:2]];
     }
   } else if ([verb isEqualToString:@"share"] && count == 1) {
     problem = [self share];
@@ -569,8 +613,15 @@ static UITextField *focusedTextField(UIView *view) {
       problem = [[self screen] alert] != nil ? @"Answer the alert first (alert N)."
                                              : [self enterText:[words objectAtIndex:2] into:item];
     }
+  } else if ([verb isEqualToString:@"search"]) {
+    NSString *typed = [[words subarrayWithRange:NSMakeRange(1, count - 1)] componentsJoinedByString:@" "];
+    problem = [[self screen] alert] != nil ? @"Answer the alert first (alert N)." : [self search:typed];
+  } else if ([verb isEqualToString:@"index"] && count == 2) {
+    problem =
+        [[self screen] alert] != nil ? @"Answer the alert first (alert N)." : [self index:[words objectAtIndex:1]];
   } else if ([verb isEqualToString:@"press"] && count == 2) {
-    problem = [[self screen] alert] != nil ? @"Answer the alert first (alert N)." : [self press:[words objectAtIndex:1]];
+    problem =
+        [[self screen] alert] != nil ? @"Answer the alert first (alert N)." : [self press:[words objectAtIndex:1]];
   } else {
     return [NSString stringWithFormat:@"Unknown command: %@\n%@", trimmed, [SettingsConsole helpText]];
   }

@@ -27,10 +27,14 @@ BOOL SettingsHostInstallPackage(void) {
   NSString *bundleTarget = hostPath(jailPath(@"/Library/PreferenceBundles/TessarinPrefs.bundle"));
   NSString *entryTarget = hostPath(entryDevicePath());
   if (bundleTarget == nil || entryTarget == nil) return NO;
-  [files createDirectoryAtPath:[bundleTarget stringByDeletingLastPathComponent] withIntermediateDirectories:YES
-                    attributes:nil error:NULL];
-  [files createDirectoryAtPath:[entryTarget stringByDeletingLastPathComponent] withIntermediateDirectories:YES
-                    attributes:nil error:NULL];
+  [files createDirectoryAtPath:[bundleTarget stringByDeletingLastPathComponent]
+      withIntermediateDirectories:YES
+                       attributes:nil
+                            error:NULL];
+  [files createDirectoryAtPath:[entryTarget stringByDeletingLastPathComponent]
+      withIntermediateDirectories:YES
+                       attributes:nil
+                            error:NULL];
   [files removeItemAtPath:bundleTarget error:NULL];
   [files removeItemAtPath:entryTarget error:NULL];
   // The bundle is linked, not copied, so a rebuilt bundle is what the next run loads.
@@ -80,8 +84,7 @@ static NSArray *systemPaneRows(void) {
   }
   if (best < 0) best = oldest;
   if (best < 0) return [NSArray array];
-  NSDictionary *list =
-      [NSDictionary dictionaryWithContentsOfFile:[dir stringByAppendingFormat:@"/ios%d.plist", best]];
+  NSDictionary *list = [NSDictionary dictionaryWithContentsOfFile:[dir stringByAppendingFormat:@"/ios%d.plist", best]];
   NSArray *rows = [list objectForKey:@"rows"];
   return [rows isKindOfClass:[NSArray class]] ? rows : [NSArray array];
 }
@@ -97,8 +100,13 @@ static UIImage *paneIcon(NSString *name) {
 }
 
 static PSSpecifier *paneRow(NSString *label, id target, Class detail) {
-  return [PSSpecifier preferenceSpecifierNamed:label target:target set:NULL get:NULL detail:detail
-                                          cell:PSLinkCell edit:Nil];
+  return [PSSpecifier preferenceSpecifierNamed:label
+                                        target:target
+                                           set:NULL
+                                           get:NULL
+                                        detail:detail
+                                          cell:PSLinkCell
+                                          edit:Nil];
 }
 
 // The row PreferenceLoader adds to the Settings list for an entry; the product's own
@@ -169,7 +177,8 @@ NSArray *SettingsHostSettingsList(id target, NSBundle *bundle) {
     if (![item isKindOfClass:[NSDictionary class]]) continue;
     id header = [item objectForKey:@"group"];
     if ([header isKindOfClass:[NSString class]]) {
-      [rows addObject:[header length] ? [PSSpecifier groupSpecifierWithName:header] : [PSSpecifier emptyGroupSpecifier]];
+      [rows
+          addObject:[header length] ? [PSSpecifier groupSpecifierWithName:header] : [PSSpecifier emptyGroupSpecifier]];
       continue;
     }
     if ([[item objectForKey:@"preferenceLoader"] boolValue]) {
@@ -191,7 +200,8 @@ NSArray *SettingsHostSettingsList(id target, NSBundle *bundle) {
     NSString *label = [item objectForKey:@"label"];
     if (![label isKindOfClass:[NSString class]]) continue;
     PSSpecifier *row = paneRow(label, target, Nil);
-    NSString *identifier = [item objectForKey:@"id"], *icon = [item objectForKey:@"icon"], *app = [item objectForKey:@"appID"];
+    NSString *identifier = [item objectForKey:@"id"], *icon = [item objectForKey:@"icon"],
+             *app = [item objectForKey:@"appID"];
     if ([identifier isKindOfClass:[NSString class]]) [row setProperty:identifier forKey:@"id"];
     if ([icon isKindOfClass:[NSString class]]) [row setProperty:paneIcon(icon) forKey:@"iconImage"];
     if ([app isKindOfClass:[NSString class]]) {

@@ -32,7 +32,8 @@ NSString *SettingsIconRowText(PSSpecifier *specifier, UIViewController *page) {
     id buttons[3] = {[cell whiteButton], [cell blackButton], [cell goldenButton]};
     for (NSUInteger i = 0; i < 3; i++) {
       BOOL on = [buttons[i] respondsToSelector:@selector(isAnimating)] && [buttons[i] isAnimating];
-      [parts addObject:on ? [NSString stringWithFormat:@"[%@, animating]", [names objectAtIndex:i]] : [names objectAtIndex:i]];
+      [parts addObject:on ? [NSString stringWithFormat:@"[%@, animating]", [names objectAtIndex:i]]
+                          : [names objectAtIndex:i]];
     }
   } else if ([cell respondsToSelector:@selector(blackView)]) {
     if ([cell blackView] == nil) return @"(no glyphs)";

@@ -11,7 +11,10 @@ NSString *SettingsWriteScreenshot(NSString *path, BOOL fullPage, CGFloat scale) 
   if ([path length] == 0) return @"Say where: screenshot FILE.png";
   NSString *folder = [path stringByDeletingLastPathComponent];
   if ([folder length] > 0) {
-    [[NSFileManager defaultManager] createDirectoryAtPath:folder withIntermediateDirectories:YES attributes:nil error:NULL];
+    [[NSFileManager defaultManager] createDirectoryAtPath:folder
+                              withIntermediateDirectories:YES
+                                               attributes:nil
+                                                    error:NULL];
   }
   SimScreenPicture *picture = SimRenderSettingsScreen(fullPage);
   if (picture == nil) return @"The screen could not be drawn.";
@@ -40,11 +43,11 @@ static BOOL opensSomething(PSSpecifier *specifier) {
   NSMutableString *_report;
   NSUInteger _count;
 }
-@property(nonatomic, assign) SettingsConsole *console;
-@property(nonatomic, copy) NSString *folder;
-@property(nonatomic, retain) NSMutableString *manifest;  // pages.tsv: file, tab, page name
-@property(nonatomic, retain) NSMutableString *report;    // what the command prints
-@property(nonatomic, assign) NSUInteger count;           // pictures written
+@property (nonatomic, assign) SettingsConsole *console;
+@property (nonatomic, copy) NSString *folder;
+@property (nonatomic, retain) NSMutableString *manifest;  // pages.tsv: file, tab, page name
+@property (nonatomic, retain) NSMutableString *report;    // what the command prints
+@property (nonatomic, assign) NSUInteger count;           // pictures written
 @end
 
 @implementation SettingsGalleryWalk
@@ -85,7 +88,9 @@ static const int kDeepest = 3;
 // A page by the titles leading to it; an alert by the row that brought it up and its title.
 - (NSString *)nameOf:(SettingsScreen *)screen under:(NSString *)trail row:(NSString *)row {
   NSString *page = SettingsScreenPageTitle([screen page]);
-  NSString *name = trail == nil ? page : [trail hasSuffix:page] ? trail : [NSString stringWithFormat:@"%@ > %@", trail, page];
+  NSString *name = trail == nil             ? page
+                   : [trail hasSuffix:page] ? trail
+                                            : [NSString stringWithFormat:@"%@ > %@", trail, page];
   if ([screen alert] != nil) {
     NSString *title = [[screen alert] title];
     if ([title length] == 0) title = [[screen alert] message];
@@ -100,8 +105,8 @@ static const int kDeepest = 3;
   _count++;
   NSString *file = [NSString stringWithFormat:@"%03lu.png", (unsigned long)_count];
   NSString *failure = SettingsWriteScreenshot([_folder stringByAppendingPathComponent:file], NO, 0);
-  NSString *oneLine = [[name componentsSeparatedByCharactersInSet:[NSCharacterSet newlineCharacterSet]]
-      componentsJoinedByString:@" "];
+  NSString *oneLine =
+      [[name componentsSeparatedByCharactersInSet:[NSCharacterSet newlineCharacterSet]] componentsJoinedByString:@" "];
   oneLine = [oneLine stringByReplacingOccurrencesOfString:@"\t" withString:@" "];
   if (failure == nil) [_manifest appendFormat:@"%@\t%@\n", file, oneLine];
   [_report appendFormat:@"%@ %@%@\n", file, oneLine, failure != nil ? [@"  " stringByAppendingString:failure] : @""];
@@ -133,7 +138,8 @@ static const int kDeepest = 3;
   }
   if ([screen modal] != nil && [[[screen modal] viewControllers] count] <= 1) {
     UINavigationItem *item = [[screen page] navigationItem];
-    for (UIBarButtonItem *button in @[ [item leftBarButtonItem] ?: [NSNull null], [item rightBarButtonItem] ?: [NSNull null] ]) {
+    for (UIBarButtonItem *button in
+         @[ [item leftBarButtonItem] ?: [NSNull null], [item rightBarButtonItem] ?: [NSNull null] ]) {
       if (![button isKindOfClass:[UIBarButtonItem class]]) continue;
       if ([[[button title] lowercaseString] isEqualToString:@"cancel"] && [button action] != NULL) {
         SimTapBarButtonItem(button);
@@ -178,7 +184,10 @@ static const int kDeepest = 3;
 }
 
 - (NSString *)run {
-  [[NSFileManager defaultManager] createDirectoryAtPath:_folder withIntermediateDirectories:YES attributes:nil error:NULL];
+  [[NSFileManager defaultManager] createDirectoryAtPath:_folder
+                            withIntermediateDirectories:YES
+                                             attributes:nil
+                                                  error:NULL];
   SettingsScreen *screen = [self look];
   NSString *root = SettingsScreenPageTitle([screen page]);
   [self shoot:root];

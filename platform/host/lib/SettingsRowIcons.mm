@@ -49,11 +49,14 @@ NSString *SettingsRowIconsReport(SettingsScreen *screen) {
     NSString *icon;
     id image = [row propertyForKey:@"iconImage"];
     NSString *lazy = [row propertyForKey:@"appIDForLazyIcon"];
-    if (image != nil) icon = SettingsImageSummary(image);
+    if (image != nil)
+      icon = SettingsImageSummary(image);
     else if ([[row propertyForKey:@"useLazyIcons"] boolValue] && [lazy isKindOfClass:[NSString class]])
       icon = [NSString stringWithFormat:@"%@ (application icon, loaded lazily)", lazy];
-    else icon = @"no icon";
-    [report appendFormat:@"  [%lu] %@%@  icon: %@\n", (unsigned long)number, [row name] ? [row name] : @"", state, icon];
+    else
+      icon = @"no icon";
+    [report
+        appendFormat:@"  [%lu] %@%@  icon: %@\n", (unsigned long)number, [row name] ? [row name] : @"", state, icon];
   }
   return [report length] ? report : @"No rows on this screen.\n";
 }

@@ -22,18 +22,18 @@
 // Looks at the Settings app's controllers now and renders them.
 + (SettingsScreen *)currentScreen;
 
-@property(nonatomic, copy) NSString *text;
-@property(nonatomic, retain) NSArray *items;  // SettingsScreenItem, numbered from 1
+@property (nonatomic, copy) NSString *text;
+@property (nonatomic, retain) NSArray *items;  // SettingsScreenItem, numbered from 1
 // The page on top (inside a presented navigation controller when one is up).
-@property(nonatomic, retain) UIViewController *page;
+@property (nonatomic, retain) UIViewController *page;
 // The navigation controller holding `page`.
-@property(nonatomic, retain) UINavigationController *navigation;
+@property (nonatomic, retain) UINavigationController *navigation;
 // The navigation controller presented modally, or nil.
-@property(nonatomic, retain) UINavigationController *modal;
+@property (nonatomic, retain) UINavigationController *modal;
 // The alert presented over everything, or nil.
-@property(nonatomic, retain) UIAlertController *alert;
+@property (nonatomic, retain) UIAlertController *alert;
 // The passcode entry field of the page, or nil.
-@property(nonatomic, retain) UIView *passcodeField;
+@property (nonatomic, retain) UIView *passcodeField;
 @end
 
 // Wraps `text` into lines of at most `width` columns (words longer than a line are cut),

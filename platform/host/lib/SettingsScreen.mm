@@ -124,8 +124,8 @@ static BOOL gRightToLeft = NO;
 static NSString *columns(NSString *left, NSString *right) {
   if (gRightToLeft) {
     NSString *start = [left stringByTrimmingCharactersInSet:[NSCharacterSet whitespaceCharacterSet]];
-    NSUInteger inset = widthOf(left) - widthOf([left stringByTrimmingCharactersInSet:
-                                                          [NSCharacterSet whitespaceCharacterSet]]);
+    NSUInteger inset =
+        widthOf(left) - widthOf([left stringByTrimmingCharactersInSet:[NSCharacterSet whitespaceCharacterSet]]);
     NSString *end = [start stringByAppendingString:blanks(inset)];
     NSUInteger used = widthOf(right) + widthOf(end);
     NSUInteger gap = used + 2 <= kScreenWidth ? kScreenWidth - used : ([right length] > 0 ? 2 : 0);
@@ -321,8 +321,8 @@ static NSString *choicesText(id value, PSSpecifier *specifier) {
 
 // A slider row: its value and its range ("3 (1 to 10)").
 static NSString *sliderText(id value, PSSpecifier *specifier) {
-  NSString *shown = [value respondsToSelector:@selector(doubleValue)] ? [NSString stringWithFormat:@"%g", [value doubleValue]]
-                                                                      : @"?";
+  NSString *shown =
+      [value respondsToSelector:@selector(doubleValue)] ? [NSString stringWithFormat:@"%g", [value doubleValue]] : @"?";
   id low = [specifier propertyForKey:@"min"], high = [specifier propertyForKey:@"max"];
   if ([low respondsToSelector:@selector(doubleValue)] && [high respondsToSelector:@selector(doubleValue)])
     return [NSString stringWithFormat:@"%@ (%g to %g)", shown, [low doubleValue], [high doubleValue]];
@@ -365,7 +365,8 @@ static NSString *sliderText(id value, PSSpecifier *specifier) {
   NSMutableArray *items = [NSMutableArray array];
 
   UIViewController *root = SimSettingsWindowRootController();
-  gRightToLeft = [[UIApplication sharedApplication] userInterfaceLayoutDirection] == UIUserInterfaceLayoutDirectionRightToLeft;
+  gRightToLeft =
+      [[UIApplication sharedApplication] userInterfaceLayoutDirection] == UIUserInterfaceLayoutDirectionRightToLeft;
   if (root == nil) {
     [screen setText:@"(the Settings app has no window)\n"];
     [screen setItems:items];
@@ -410,8 +411,7 @@ static NSString *sliderText(id value, PSSpecifier *specifier) {
     UIBarButtonItem *right = [navigationItem rightBarButtonItem];
     if (barButtonName(left) != nil) [buttons addObject:[NSString stringWithFormat:@"[%@]", barButtonName(left)]];
     if (barButtonName(right) != nil) [buttons addObject:[NSString stringWithFormat:@"[%@]", barButtonName(right)]];
-  } @catch (NSException *exception) {
-  }
+  } @catch (NSException *exception) {}
   [lines addObject:rule(@"=")];
   if (modal != nil) {
     [lines addObject:columns(@" (modal page)", [buttons componentsJoinedByString:@" "])];
@@ -443,7 +443,9 @@ static NSString *sliderText(id value, PSSpecifier *specifier) {
   return screen;
 }
 
-- (void)addFooter:(PSSpecifier *)group page:(UIViewController *)page into:(NSMutableArray *)lines
+- (void)addFooter:(PSSpecifier *)group
+             page:(UIViewController *)page
+             into:(NSMutableArray *)lines
             items:(NSMutableArray *)items {
   if (group == nil) return;
   NSString *footer = stringOrNil([group propertyForKey:@"footerText"]);
@@ -473,6 +475,57 @@ static NSString *sliderText(id value, PSSpecifier *specifier) {
                                         : [NSString stringWithFormat:@"    %@ link: %@", number, link])];
 }
 
+// The page's search field as the navigation bar shows it: under the title while the list
+// is at its top or a search is on (a bar that hides when scrolling has gone up with the
+// list otherwise), with the Cancel button while searching.
+static void addSearchField(UIViewController *page, UITableView *table, NSMutableArray *lines) {
+  UINavigationItem *navigationItem = [page navigationItem];
+  UISearchController *search = [navigationItem searchController];
+  if (search == nil) return;
+  BOOL active = [search isActive];
+  if ([navigationItem hidesSearchBarWhenScrolling] && !active && table.contentOffset.y > 0) return;
+  NSString *text = [[search searchBar] text];
+  NSString *shown = [text length] > 0 ? text : ([[search searchBar] placeholder] ?: @"Search");
+  NSString *field = [NSString stringWithFormat:@"  [ %@ ]", [shown stringByPaddingToLength:MAX([shown length], 50)
+                                                                                withString:@" "
+                                                                           startingAtIndex:0]];
+  [lines addObject:columns(field, active ? @"Cancel" : @"")];
+}
+
+// The letters of the table's section index, as it shows them down the side (the right edge,
+// the left one right to left).
+static void addSectionIndex(UITableView *table, NSMutableArray *lines) {
+  NSArray *titles = SimTableViewSectionIndexTitles(table);
+  if ([titles count] > 0)
+    [lines addObject:aligned([@"  Index: " stringByAppendingString:[titles componentsJoinedByString:@" "]])];
+}
+
+// Where the table's screen begins once it has scrolled: the section or row at its top edge
+// (nil at the top of the list). `group` YES: the screen begins with the section's header.
+static NSIndexPath *screenTop(UITableView *table, BOOL *group) {
+  const CGFloat top = table.contentOffset.y + table.contentInset.top;
+  if (table.contentOffset.y <= 0) return nil;
+  const NSInteger sections = [table numberOfSections];
+  for (NSInteger section = 0; section < sections; section++) {
+    CGRect rect = [table rectForSection:section];
+    if (CGRectGetMaxY(rect) <= top) continue;
+    *group = rect.origin.y >= top - 0.5;
+    if (*group) return [NSIndexPath indexPathForRow:0 inSection:section];
+    const NSInteger rows = [table numberOfRowsInSection:section];
+    for (NSInteger row = 0; row < rows; row++) {
+      NSIndexPath *path = [NSIndexPath indexPathForRow:row inSection:section];
+      if (CGRectGetMaxY([table rectForRowAtIndexPath:path]) > top) return path;
+    }
+    *group = YES;
+    return [NSIndexPath indexPathForRow:0 inSection:section + 1];
+  }
+  return nil;
+}
+
+static NSString *screenTopLine(void) {
+  return [@"  " stringByAppendingString:[rule(@"-") substringToIndex:kScreenWidth - 4]];
+}
+
 - (void)renderList:(UIViewController *)page into:(NSMutableArray *)lines items:(NSMutableArray *)items {
   NSArray *specifiers = nil;
   @try {
@@ -481,14 +534,25 @@ static NSString *sliderText(id value, PSSpecifier *specifier) {
     [lines addObject:[NSString stringWithFormat:@"  (the page failed to build its rows: %@)", [exception reason]]];
     return;
   }
+  UITableView *table = [page isViewLoaded] ? [(PSListController *)page table] : nil;
+  addSearchField(page, table, lines);
+  addSectionIndex(table, lines);
   if ([specifiers count] == 0) {
     [lines addObject:@"  (no rows)"];
     return;
   }
+  BOOL topIsGroup = NO;
+  NSIndexPath *top = table != nil ? screenTop(table, &topIsGroup) : nil;
+  NSInteger section = -1, row = -1;
   PSSpecifier *group = nil;
   for (PSSpecifier *specifier in specifiers) {
     if (![specifier isKindOfClass:[PSSpecifier class]]) continue;
     long type = (long)[specifier cellType];
+    // Rows before the first group make a section of their own, as the table shows them.
+    if (type == kGroupCell || section < 0) section++, row = -1;
+    if (type != kGroupCell) row++;
+    if (top != nil && top.section == section && (type == kGroupCell ? topIsGroup : !topIsGroup && top.row == row))
+      [lines addObject:screenTopLine()];
     if (type == kGroupCell) {
       [self addFooter:group page:page into:lines items:items];
       group = specifier;
@@ -513,8 +577,10 @@ static NSString *sliderText(id value, PSSpecifier *specifier) {
       [lines addObject:[@"  " stringByAppendingString:[rule(@"!") substringToIndex:kScreenWidth - 4]]];
       NSArray *parts = [name componentsSeparatedByString:@"\n"];
       for (NSUInteger i = 0; i < [parts count]; i++) {
-        NSString *trimmed = [[parts objectAtIndex:i] stringByTrimmingCharactersInSet:[NSCharacterSet whitespaceCharacterSet]];
-        [lines addObject:aligned([NSString stringWithFormat:@"  !! %@%@", trimmed, i + 1 == [parts count] ? disabled : @""])];
+        NSString *trimmed =
+            [[parts objectAtIndex:i] stringByTrimmingCharactersInSet:[NSCharacterSet whitespaceCharacterSet]];
+        [lines addObject:aligned([NSString
+                             stringWithFormat:@"  !! %@%@", trimmed, i + 1 == [parts count] ? disabled : @""])];
       }
       [lines addObject:[@"  " stringByAppendingString:[rule(@"!") substringToIndex:kScreenWidth - 4]]];
       continue;
@@ -568,8 +634,9 @@ static NSString *sliderText(id value, PSSpecifier *specifier) {
       case kEditTextCell:
       case kSecureEditTextCell:
         value = SettingsScreenRowValue(specifier, page);
-        right = type == kSecureEditTextCell && value != nil ? @"\"****\"" :
-                [NSString stringWithFormat:@"\"%@\"", value != nil ? valueText(value, specifier) : @""];
+        right = type == kSecureEditTextCell && value != nil
+                    ? @"\"****\""
+                    : [NSString stringWithFormat:@"\"%@\"", value != nil ? valueText(value, specifier) : @""];
         break;
       default:
         right = SettingsIconRowText(specifier, page);
@@ -585,7 +652,8 @@ static NSString *sliderText(id value, PSSpecifier *specifier) {
       subtitle = stringOrNil([[cell detailTextLabel] text]);
       if ([subtitle length] == 0) subtitle = nil;
     }
-    if (subtitle != nil) [lines addObjectsFromArray:alignedLines(SettingsScreenWrap(subtitle, kScreenWidth, @"        "))];
+    if (subtitle != nil)
+      [lines addObjectsFromArray:alignedLines(SettingsScreenWrap(subtitle, kScreenWidth, @"        "))];
   }
   [self addFooter:group page:page into:lines items:items];
 }
@@ -662,8 +730,9 @@ static const NSUInteger kTextLines = 30;
   NSArray *to = [composer _simToRecipients];
   [lines addObject:@""];
   [lines addObject:[@"  To: " stringByAppendingString:to != nil ? [to componentsJoinedByString:@", "] : @""]];
-  [lines addObject:[@"  Subject: " stringByAppendingString:[composer _simSubject] != nil ? [composer _simSubject] : @""]];
-  [lines addObject:@"  " ];
+  [lines
+      addObject:[@"  Subject: " stringByAppendingString:[composer _simSubject] != nil ? [composer _simSubject] : @""]];
+  [lines addObject:@"  "];
   [self renderText:[composer _simMessageBody] into:lines];
   [lines addObject:@""];
   [lines addObject:@"  (mail send | mail save | mail cancel | mail fail)"];
@@ -689,12 +758,14 @@ static const NSUInteger kTextLines = 30;
     [box addObject:[NSString stringWithFormat:@"<alert %lu> %@%@", (unsigned long)index, [action title], style]];
   }
   [lines addObject:@""];
-  NSString *edge = [@"    +" stringByAppendingString:[[@"" stringByPaddingToLength:inner + 2 withString:@"-" startingAtIndex:0]
-                                                        stringByAppendingString:@"+"]];
+  NSString *edge = [@"    +" stringByAppendingString:[[@"" stringByPaddingToLength:inner + 2
+                                                                        withString:@"-"
+                                                                   startingAtIndex:0] stringByAppendingString:@"+"]];
   [lines addObject:edge];
   for (NSString *line in box) {
-    NSString *inside = gRightToLeft ? [blanks(inner > widthOf(line) ? inner - widthOf(line) : 0) stringByAppendingString:line]
-                                    : padded(line, inner);
+    NSString *inside = gRightToLeft
+                           ? [blanks(inner > widthOf(line) ? inner - widthOf(line) : 0) stringByAppendingString:line]
+                           : padded(line, inner);
     [lines addObject:[NSString stringWithFormat:@"    | %@ |", inside]];
   }
   [lines addObject:edge];

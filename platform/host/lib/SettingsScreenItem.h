@@ -10,7 +10,7 @@
   UIViewController *_controller;
   BOOL _footerLink;
 }
-@property(nonatomic, retain) PSSpecifier *specifier;
-@property(nonatomic, assign) UIViewController *controller;  // the page showing it
-@property(nonatomic, assign) BOOL footerLink;
+@property (nonatomic, retain) PSSpecifier *specifier;
+@property (nonatomic, assign) UIViewController *controller;  // the page showing it
+@property (nonatomic, assign) BOOL footerLink;
 @end

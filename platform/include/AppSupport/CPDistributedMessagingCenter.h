@@ -6,9 +6,9 @@
 #import <Foundation/Foundation.h>
 
 @interface CPDistributedMessagingCenter : NSObject {
-    NSString *_centerName;
-    NSMutableDictionary *_handlers;
-    BOOL _serverRunning;
+  NSString *_centerName;
+  NSMutableDictionary *_handlers;
+  BOOL _serverRunning;
 }
 
 + (instancetype)centerNamed:(NSString *)name;

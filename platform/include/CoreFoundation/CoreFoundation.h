@@ -17,7 +17,9 @@ extern "C" {
 #define CF_EXPORT extern __attribute__((visibility("default")))
 #endif
 #ifndef CF_ENUM
-#define CF_ENUM(_type, _name) _type _name; enum
+#define CF_ENUM(_type, _name) \
+  _type _name;                \
+  enum
 #endif
 
 typedef unsigned char Boolean;
@@ -50,32 +52,31 @@ typedef struct __CFRunLoop *CFRunLoopRef;
 typedef struct __CFNotificationCenter *CFNotificationCenterRef;
 
 typedef struct {
-    CFIndex location;
-    CFIndex length;
+  CFIndex location;
+  CFIndex length;
 } CFRange;
 
-static inline CFRange CFRangeMake(CFIndex loc, CFIndex len)
-{
-    CFRange r = {loc, len};
-    return r;
+static inline CFRange CFRangeMake(CFIndex loc, CFIndex len) {
+  CFRange r = {loc, len};
+  return r;
 }
 
 typedef UInt32 CFStringEncoding;
 enum {
-    kCFStringEncodingMacRoman = 0,
-    kCFStringEncodingWindowsLatin1 = 0x0500,
-    kCFStringEncodingISOLatin1 = 0x0201,
-    kCFStringEncodingNextStepLatin = 0x0B01,
-    kCFStringEncodingASCII = 0x0600,
-    kCFStringEncodingUnicode = 0x0100,
-    kCFStringEncodingUTF8 = 0x08000100,
-    kCFStringEncodingNonLossyASCII = 0x0BFF,
+  kCFStringEncodingMacRoman = 0,
+  kCFStringEncodingWindowsLatin1 = 0x0500,
+  kCFStringEncodingISOLatin1 = 0x0201,
+  kCFStringEncodingNextStepLatin = 0x0B01,
+  kCFStringEncodingASCII = 0x0600,
+  kCFStringEncodingUnicode = 0x0100,
+  kCFStringEncodingUTF8 = 0x08000100,
+  kCFStringEncodingNonLossyASCII = 0x0BFF,
 };
 
 typedef CF_ENUM(CFIndex, CFComparisonResult) {
-    kCFCompareLessThan = -1L,
-    kCFCompareEqualTo = 0,
-    kCFCompareGreaterThan = 1
+  kCFCompareLessThan = -1L,
+  kCFCompareEqualTo = 0,
+  kCFCompareGreaterThan = 1
 };
 
 #define kCFNotFound ((CFIndex)-1)
@@ -107,11 +108,12 @@ CF_EXPORT CFTypeID CFDateGetTypeID(void);
 CF_EXPORT CFStringRef CFStringCreateWithCString(CFAllocatorRef alloc, const char *cStr, CFStringEncoding encoding);
 CF_EXPORT CFStringRef CFStringCreateCopy(CFAllocatorRef alloc, CFStringRef theString);
 CF_EXPORT CFIndex CFStringGetLength(CFStringRef theString);
-CF_EXPORT Boolean CFStringGetCString(CFStringRef theString, char *buffer, CFIndex bufferSize, CFStringEncoding encoding);
+CF_EXPORT Boolean CFStringGetCString(CFStringRef theString, char *buffer, CFIndex bufferSize,
+                                     CFStringEncoding encoding);
 CF_EXPORT const char *CFStringGetCStringPtr(CFStringRef theString, CFStringEncoding encoding);
 CF_EXPORT CFComparisonResult CFStringCompare(CFStringRef a, CFStringRef b, CFOptionFlags options);
 #ifdef __OBJC__
-#define CFSTR(cStr) ((CFStringRef)@cStr)
+#define CFSTR(cStr) ((CFStringRef) @cStr)
 #else
 #define CFSTR(cStr) __CFStringMakeConstantString("" cStr "")
 #endif
@@ -151,12 +153,16 @@ CF_EXPORT const CFStringRef kCFPreferencesAnyUser;
 CF_EXPORT const CFStringRef kCFPreferencesCurrentUser;
 
 CF_EXPORT CFPropertyListRef CFPreferencesCopyAppValue(CFStringRef key, CFStringRef applicationID);
-CF_EXPORT Boolean CFPreferencesGetAppBooleanValue(CFStringRef key, CFStringRef applicationID, Boolean *keyExistsAndHasValidFormat);
-CF_EXPORT CFIndex CFPreferencesGetAppIntegerValue(CFStringRef key, CFStringRef applicationID, Boolean *keyExistsAndHasValidFormat);
+CF_EXPORT Boolean CFPreferencesGetAppBooleanValue(CFStringRef key, CFStringRef applicationID,
+                                                  Boolean *keyExistsAndHasValidFormat);
+CF_EXPORT CFIndex CFPreferencesGetAppIntegerValue(CFStringRef key, CFStringRef applicationID,
+                                                  Boolean *keyExistsAndHasValidFormat);
 CF_EXPORT void CFPreferencesSetAppValue(CFStringRef key, CFPropertyListRef value, CFStringRef applicationID);
 CF_EXPORT Boolean CFPreferencesAppSynchronize(CFStringRef applicationID);
-CF_EXPORT CFPropertyListRef CFPreferencesCopyValue(CFStringRef key, CFStringRef applicationID, CFStringRef userName, CFStringRef hostName);
-CF_EXPORT void CFPreferencesSetValue(CFStringRef key, CFPropertyListRef value, CFStringRef applicationID, CFStringRef userName, CFStringRef hostName);
+CF_EXPORT CFPropertyListRef CFPreferencesCopyValue(CFStringRef key, CFStringRef applicationID, CFStringRef userName,
+                                                   CFStringRef hostName);
+CF_EXPORT void CFPreferencesSetValue(CFStringRef key, CFPropertyListRef value, CFStringRef applicationID,
+                                     CFStringRef userName, CFStringRef hostName);
 CF_EXPORT Boolean CFPreferencesSynchronize(CFStringRef applicationID, CFStringRef userName, CFStringRef hostName);
 CF_EXPORT CFArrayRef CFPreferencesCopyKeyList(CFStringRef applicationID, CFStringRef userName, CFStringRef hostName);
 
@@ -164,15 +170,15 @@ CF_EXPORT CFArrayRef CFPreferencesCopyKeyList(CFStringRef applicationID, CFStrin
 typedef void (*CFNotificationCallback)(CFNotificationCenterRef center, void *observer, CFStringRef name,
                                        const void *object, CFDictionaryRef userInfo);
 typedef CF_ENUM(CFIndex, CFNotificationSuspensionBehavior) {
-    CFNotificationSuspensionBehaviorDrop = 1,
-    CFNotificationSuspensionBehaviorCoalesce = 2,
-    CFNotificationSuspensionBehaviorHold = 3,
-    CFNotificationSuspensionBehaviorDeliverImmediately = 4
+  CFNotificationSuspensionBehaviorDrop = 1,
+  CFNotificationSuspensionBehaviorCoalesce = 2,
+  CFNotificationSuspensionBehaviorHold = 3,
+  CFNotificationSuspensionBehaviorDeliverImmediately = 4
 };
 CF_EXPORT CFNotificationCenterRef CFNotificationCenterGetDarwinNotifyCenter(void);
 CF_EXPORT void CFNotificationCenterAddObserver(CFNotificationCenterRef center, const void *observer,
-                                               CFNotificationCallback callBack, CFStringRef name,
-                                               const void *object, CFNotificationSuspensionBehavior suspensionBehavior);
+                                               CFNotificationCallback callBack, CFStringRef name, const void *object,
+                                               CFNotificationSuspensionBehavior suspensionBehavior);
 CF_EXPORT void CFNotificationCenterRemoveObserver(CFNotificationCenterRef center, const void *observer,
                                                   CFStringRef name, const void *object);
 CF_EXPORT void CFNotificationCenterRemoveEveryObserver(CFNotificationCenterRef center, const void *observer);

@@ -38,17 +38,17 @@ void CGPathRelease(CGPathRef path);
 bool CGPathEqualToPath(CGPathRef path1, CGPathRef path2);
 void CGPathMoveToPoint(CGMutablePathRef path, const CGAffineTransform *m, CGFloat x, CGFloat y);
 void CGPathAddLineToPoint(CGMutablePathRef path, const CGAffineTransform *m, CGFloat x, CGFloat y);
-void CGPathAddQuadCurveToPoint(CGMutablePathRef path, const CGAffineTransform *m, CGFloat cpx, CGFloat cpy,
-                               CGFloat x, CGFloat y);
-void CGPathAddCurveToPoint(CGMutablePathRef path, const CGAffineTransform *m, CGFloat cp1x, CGFloat cp1y,
-                           CGFloat cp2x, CGFloat cp2y, CGFloat x, CGFloat y);
+void CGPathAddQuadCurveToPoint(CGMutablePathRef path, const CGAffineTransform *m, CGFloat cpx, CGFloat cpy, CGFloat x,
+                               CGFloat y);
+void CGPathAddCurveToPoint(CGMutablePathRef path, const CGAffineTransform *m, CGFloat cp1x, CGFloat cp1y, CGFloat cp2x,
+                           CGFloat cp2y, CGFloat x, CGFloat y);
 void CGPathCloseSubpath(CGMutablePathRef path);
 void CGPathAddRect(CGMutablePathRef path, const CGAffineTransform *m, CGRect rect);
 void CGPathAddRects(CGMutablePathRef path, const CGAffineTransform *m, const CGRect *rects, size_t count);
 void CGPathAddLines(CGMutablePathRef path, const CGAffineTransform *m, const CGPoint *points, size_t count);
 void CGPathAddEllipseInRect(CGMutablePathRef path, const CGAffineTransform *m, CGRect rect);
-void CGPathAddRoundedRect(CGMutablePathRef path, const CGAffineTransform *transform, CGRect rect,
-                          CGFloat cornerWidth, CGFloat cornerHeight);
+void CGPathAddRoundedRect(CGMutablePathRef path, const CGAffineTransform *transform, CGRect rect, CGFloat cornerWidth,
+                          CGFloat cornerHeight);
 void CGPathAddArc(CGMutablePathRef path, const CGAffineTransform *m, CGFloat x, CGFloat y, CGFloat radius,
                   CGFloat startAngle, CGFloat endAngle, bool clockwise);
 void CGPathAddPath(CGMutablePathRef path1, const CGAffineTransform *m, CGPathRef path2);

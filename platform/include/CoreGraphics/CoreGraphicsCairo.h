@@ -17,8 +17,8 @@ CG_EXTERN_C_BEGIN
 
 /* A face of the system font or of a named font, as a UIFont describes it. */
 typedef struct SimTextFont {
-  CGFloat size;   /* points */
-  int weight;     /* 100 to 900, as CSS and pango count: 400 regular, 600 semibold */
+  CGFloat size; /* points */
+  int weight;   /* 100 to 900, as CSS and pango count: 400 regular, 600 semibold */
   BOOL italic;
   BOOL monospace;
 } SimTextFont;
@@ -28,8 +28,13 @@ typedef struct SimTextFont {
 SimTextFont SimTextFontNamed(NSString *name, CGFloat size);
 
 /* Paragraph alignment, NSTextAlignment's values. Natural follows the text's own direction. */
-enum { SimTextAlignLeft = 0, SimTextAlignCenter = 1, SimTextAlignRight = 2, SimTextAlignJustified = 3,
-       SimTextAlignNatural = 4 };
+enum {
+  SimTextAlignLeft = 0,
+  SimTextAlignCenter = 1,
+  SimTextAlignRight = 2,
+  SimTextAlignJustified = 3,
+  SimTextAlignNatural = 4
+};
 
 /* Lays `text` out. `width` <= 0: one line as long as the text (no wrapping); otherwise lines
    wrap at word boundaries (characters when a word is longer than a line). `lines` > 0 keeps

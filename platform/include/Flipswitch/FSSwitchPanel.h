@@ -15,7 +15,7 @@ typedef NS_ENUM(NSInteger, FSSwitchState) {
 @interface FSSwitchPanel : NSObject
 + (instancetype)sharedPanel;
 /* The identifiers of the installed switches, in the library's own order. */
-@property(nonatomic, readonly, copy) NSArray *switchIdentifiers;
+@property (nonatomic, readonly, copy) NSArray *switchIdentifiers;
 - (NSString *)titleForSwitchIdentifier:(NSString *)switchIdentifier;
 /* The switch's glyph drawn with the template bundle; nil without a template bundle or
    for an unknown switch. */

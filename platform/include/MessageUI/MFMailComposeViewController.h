@@ -3,11 +3,11 @@
 
 #import <UIKit/UIKit.h>
 
-typedef NS_ENUM(NSInteger, MFMailComposeResult){
-    MFMailComposeResultCancelled = 0,
-    MFMailComposeResultSaved = 1,
-    MFMailComposeResultSent = 2,
-    MFMailComposeResultFailed = 3,
+typedef NS_ENUM(NSInteger, MFMailComposeResult) {
+  MFMailComposeResultCancelled = 0,
+  MFMailComposeResultSaved = 1,
+  MFMailComposeResultSent = 2,
+  MFMailComposeResultFailed = 3,
 };
 
 UIKIT_EXTERN NSString *const MFMailComposeErrorDomain;
@@ -35,7 +35,7 @@ UIKIT_EXTERN NSString *const MFMailComposeErrorDomain;
   NSMutableArray *_attachments;
 }
 + (BOOL)canSendMail;
-@property(nonatomic, assign) id<MFMailComposeViewControllerDelegate> mailComposeDelegate;
+@property (nonatomic, assign) id<MFMailComposeViewControllerDelegate> mailComposeDelegate;
 - (void)setSubject:(NSString *)subject;
 - (void)setToRecipients:(NSArray *)toRecipients;
 - (void)setCcRecipients:(NSArray *)ccRecipients;

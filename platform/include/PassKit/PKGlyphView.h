@@ -27,11 +27,11 @@
   NSMutableArray *_simColorChanges;
 }
 - (instancetype)initWithStyle:(NSInteger)style;
-@property(nonatomic, readonly) NSInteger style;
-@property(nonatomic, readonly) NSInteger state;
+@property (nonatomic, readonly) NSInteger style;
+@property (nonatomic, readonly) NSInteger state;
 - (void)setState:(NSInteger)state animated:(BOOL)animated completionHandler:(void (^)(void))completion;
-@property(nonatomic, copy) UIColor *primaryColor;
-@property(nonatomic, copy) UIColor *secondaryColor;
+@property (nonatomic, copy) UIColor *primaryColor;
+@property (nonatomic, copy) UIColor *secondaryColor;
 - (void)_setPrimaryColor:(UIColor *)color animated:(BOOL)animated;
 - (void)_setSecondaryColor:(UIColor *)color animated:(BOOL)animated;
 - (UIColor *)_primaryColorForStyle:(NSInteger)style mode:(NSInteger)mode;

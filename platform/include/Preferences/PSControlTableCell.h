@@ -7,7 +7,7 @@
 @interface PSControlTableCell : PSTableCell {
   UIControl *_control;
 }
-@property(nonatomic, retain) UIControl *control;
+@property (nonatomic, retain) UIControl *control;
 - (UIControl *)newControl;
 - (void)controlChanged:(id)sender;
 - (id)controlValue;

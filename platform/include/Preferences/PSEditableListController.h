@@ -9,7 +9,7 @@
   BOOL _editable;
   BOOL _editingDisabled;
 }
-@property(nonatomic, getter=isEditable) BOOL editable;
+@property (nonatomic, getter=isEditable) BOOL editable;
 - (BOOL)performDeletionActionForSpecifier:(PSSpecifier *)specifier;
 - (void)editDoneTapped;
 - (void)setEditingButtonHidden:(BOOL)hidden animated:(BOOL)animated;

@@ -11,7 +11,7 @@
 }
 - (UITextField *)textField;
 - (UITextField *)editableTextField;
-@property(nonatomic, assign) id delegate;
+@property (nonatomic, assign) id delegate;
 @end
 
 #endif

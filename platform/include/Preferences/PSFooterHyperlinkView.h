@@ -19,12 +19,12 @@
   SEL _action;
   NSURL *_URL;
 }
-@property(nonatomic, readonly) NSString *text;
-@property(nonatomic, readonly) NSRange linkRange;
-@property(nonatomic, assign) id target;
-@property(nonatomic) SEL action;
-@property(nonatomic, retain) NSURL *URL;
-@property(nonatomic, readonly) UILabel *textLabel;
+@property (nonatomic, readonly) NSString *text;
+@property (nonatomic, readonly) NSRange linkRange;
+@property (nonatomic, assign) id target;
+@property (nonatomic) SEL action;
+@property (nonatomic, retain) NSURL *URL;
+@property (nonatomic, readonly) UILabel *textLabel;
 @end
 
 #endif

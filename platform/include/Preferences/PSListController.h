@@ -25,7 +25,7 @@
 }
 /* The rows; the base class builds them from its specifier's plist ("bundle"/plist name) or
    returns the cache. */
-@property(nonatomic, retain) NSArray *specifiers;
+@property (nonatomic, retain) NSArray *specifiers;
 - (UITableView *)table;
 - (NSBundle *)bundle;
 - (Class)tableViewClass;
@@ -80,7 +80,9 @@
 - (void)removeContiguousSpecifiers:(NSArray *)specifiers;
 - (void)removeContiguousSpecifiers:(NSArray *)specifiers animated:(BOOL)animated;
 - (void)replaceContiguousSpecifiers:(NSArray *)specifiers withSpecifiers:(NSArray *)newSpecifiers;
-- (void)replaceContiguousSpecifiers:(NSArray *)specifiers withSpecifiers:(NSArray *)newSpecifiers animated:(BOOL)animated;
+- (void)replaceContiguousSpecifiers:(NSArray *)specifiers
+                     withSpecifiers:(NSArray *)newSpecifiers
+                           animated:(BOOL)animated;
 
 /* The cell of a row as the table shows it: made or reused, refreshed and laid out. */
 - (UITableViewCell *)cachedCellForSpecifier:(PSSpecifier *)specifier;

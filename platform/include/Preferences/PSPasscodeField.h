@@ -26,13 +26,13 @@
   NSMutableArray *_dotFields;
 }
 - (instancetype)initWithNumberOfEntryFields:(NSUInteger)fields;
-@property(nonatomic) NSUInteger numberOfEntryFields;
-@property(nonatomic, copy) NSString *stringValue;
-@property(nonatomic) BOOL securePasscodeEntry;
-@property(nonatomic, getter=isEnabled) BOOL enabled;
-@property(nonatomic) BOOL shouldBecomeFirstResponderOnTap;
-@property(nonatomic, assign) id<PSPasscodeFieldDelegate> delegate;
-@property(nonatomic) UIKeyboardType keyboardType;
+@property (nonatomic) NSUInteger numberOfEntryFields;
+@property (nonatomic, copy) NSString *stringValue;
+@property (nonatomic) BOOL securePasscodeEntry;
+@property (nonatomic, getter=isEnabled) BOOL enabled;
+@property (nonatomic) BOOL shouldBecomeFirstResponderOnTap;
+@property (nonatomic, assign) id<PSPasscodeFieldDelegate> delegate;
+@property (nonatomic) UIKeyboardType keyboardType;
 - (NSArray *)dotFields;
 @end
 

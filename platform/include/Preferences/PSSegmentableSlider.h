@@ -13,10 +13,10 @@
   BOOL _snapsToSegment;
   unsigned long long _segmentCount;
 }
-@property(nonatomic, assign, getter=isSegmented) BOOL segmented;
-@property(nonatomic, assign) BOOL locksToSegment;
-@property(nonatomic, assign) BOOL snapsToSegment;
-@property(nonatomic, assign) unsigned long long segmentCount;
+@property (nonatomic, assign, getter=isSegmented) BOOL segmented;
+@property (nonatomic, assign) BOOL locksToSegment;
+@property (nonatomic, assign) BOOL snapsToSegment;
+@property (nonatomic, assign) unsigned long long segmentCount;
 @end
 
 #endif

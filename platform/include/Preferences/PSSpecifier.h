@@ -3,22 +3,22 @@
 
 #import <UIKit/UIKit.h>
 
-typedef NS_ENUM(NSInteger, PSCellType){
-    PSGroupCell = 0,
-    PSLinkCell = 1,
-    PSLinkListCell = 2,
-    PSListItemCell = 3,
-    PSTitleValueCell = 4,
-    PSSliderCell = 5,
-    PSSwitchCell = 6,
-    PSStaticTextCell = 7,
-    PSEditTextCell = 8,
-    PSSegmentCell = 9,
-    PSGiantIconCell = 10,
-    PSGiantCell = 11,
-    PSSecureEditTextCell = 12,
-    PSButtonCell = 13,
-    PSEditTextViewCell = 14,
+typedef NS_ENUM(NSInteger, PSCellType) {
+  PSGroupCell = 0,
+  PSLinkCell = 1,
+  PSLinkListCell = 2,
+  PSListItemCell = 3,
+  PSTitleValueCell = 4,
+  PSSliderCell = 5,
+  PSSwitchCell = 6,
+  PSStaticTextCell = 7,
+  PSEditTextCell = 8,
+  PSSegmentCell = 9,
+  PSGiantIconCell = 10,
+  PSGiantCell = 11,
+  PSSecureEditTextCell = 12,
+  PSButtonCell = 13,
+  PSEditTextViewCell = 14,
 };
 
 /* Property keys of the framework. */
@@ -72,7 +72,13 @@ extern NSString *const PSTargetKey;
   SEL _controllerLoadAction;
   BOOL _showContentString;
 }
-+ (instancetype)preferenceSpecifierNamed:(NSString *)name target:(id)target set:(SEL)set get:(SEL)get detail:(Class)detail cell:(PSCellType)cell edit:(Class)edit;
++ (instancetype)preferenceSpecifierNamed:(NSString *)name
+                                  target:(id)target
+                                     set:(SEL)set
+                                     get:(SEL)get
+                                  detail:(Class)detail
+                                    cell:(PSCellType)cell
+                                    edit:(Class)edit;
 + (instancetype)groupSpecifierWithName:(NSString *)name;
 /* From iOS 13 on: on an older device's profile the class does not answer it
    (respondsToSelector: says NO). */
@@ -82,25 +88,25 @@ extern NSString *const PSTargetKey;
 + (instancetype)groupSpecifierWithID:(NSString *)identifier name:(NSString *)name;
 + (PSCellType)autoCellTypeForClass:(Class)cls;
 
-@property(nonatomic, retain) NSString *name;
+@property (nonatomic, retain) NSString *name;
 /* The "id" property; the name when there is none. Setting it sets "id". */
-@property(nonatomic, retain) NSString *identifier;
-@property(nonatomic, assign) id target;
-@property(nonatomic, assign) SEL getter;
-@property(nonatomic, assign) SEL setter;
-@property(nonatomic, assign) Class detailControllerClass;
-@property(nonatomic, assign) Class editPaneClass;
-@property(nonatomic, assign) PSCellType cellType;
-@property(nonatomic, assign) SEL buttonAction;
-@property(nonatomic, assign) SEL confirmationAction;
-@property(nonatomic, assign) SEL confirmationCancelAction;
-@property(nonatomic, assign) SEL controllerLoadAction;
-@property(nonatomic, retain) id userInfo;
-@property(nonatomic, retain) NSArray *values;
-@property(nonatomic, retain) NSDictionary *titleDictionary;
-@property(nonatomic, retain) NSDictionary *shortTitleDictionary;
-@property(nonatomic, retain) NSMutableDictionary *properties;
-@property(nonatomic) BOOL showContentString;
+@property (nonatomic, retain) NSString *identifier;
+@property (nonatomic, assign) id target;
+@property (nonatomic, assign) SEL getter;
+@property (nonatomic, assign) SEL setter;
+@property (nonatomic, assign) Class detailControllerClass;
+@property (nonatomic, assign) Class editPaneClass;
+@property (nonatomic, assign) PSCellType cellType;
+@property (nonatomic, assign) SEL buttonAction;
+@property (nonatomic, assign) SEL confirmationAction;
+@property (nonatomic, assign) SEL confirmationCancelAction;
+@property (nonatomic, assign) SEL controllerLoadAction;
+@property (nonatomic, retain) id userInfo;
+@property (nonatomic, retain) NSArray *values;
+@property (nonatomic, retain) NSDictionary *titleDictionary;
+@property (nonatomic, retain) NSDictionary *shortTitleDictionary;
+@property (nonatomic, retain) NSMutableDictionary *properties;
+@property (nonatomic) BOOL showContentString;
 
 - (id)propertyForKey:(NSString *)key;
 /* A nil value removes the property. */

@@ -24,13 +24,15 @@
 + (NSString *)reuseIdentifierForSpecifier:(PSSpecifier *)specifier;
 + (NSString *)reuseIdentifierForClassAndType:(PSCellType)cellType;
 + (UITableViewCellStyle)cellStyle;
-- (instancetype)initWithStyle:(UITableViewCellStyle)style reuseIdentifier:(NSString *)reuseIdentifier specifier:(PSSpecifier *)specifier;
-@property(nonatomic, retain) PSSpecifier *specifier;
-@property(nonatomic) PSCellType type;
-@property(nonatomic, assign) id cellTarget;
-@property(nonatomic) SEL cellAction;
-@property(nonatomic, getter=isChecked) BOOL checked;
-@property(nonatomic) BOOL cellEnabled;
+- (instancetype)initWithStyle:(UITableViewCellStyle)style
+              reuseIdentifier:(NSString *)reuseIdentifier
+                    specifier:(PSSpecifier *)specifier;
+@property (nonatomic, retain) PSSpecifier *specifier;
+@property (nonatomic) PSCellType type;
+@property (nonatomic, assign) id cellTarget;
+@property (nonatomic) SEL cellAction;
+@property (nonatomic, getter=isChecked) BOOL checked;
+@property (nonatomic) BOOL cellEnabled;
 - (void)setCellEnabled:(BOOL)enabled;
 - (UILabel *)titleLabel;
 - (UILabel *)valueLabel;

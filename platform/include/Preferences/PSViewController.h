@@ -12,11 +12,11 @@
   PSSpecifier *_specifier;
 }
 - (instancetype)initForContentSize:(CGSize)contentSize;
-@property(nonatomic, retain) PSSpecifier *specifier;
+@property (nonatomic, retain) PSSpecifier *specifier;
 /* Not retained. */
-@property(nonatomic, assign) UIViewController *parentController;
+@property (nonatomic, assign) UIViewController *parentController;
 /* The Settings navigation controller; the controller's own navigation controller when unset. */
-@property(nonatomic, assign) id rootController;
+@property (nonatomic, assign) id rootController;
 - (void)setPreferenceValue:(id)value specifier:(PSSpecifier *)specifier;
 - (id)readPreferenceValue:(PSSpecifier *)specifier;
 /* Pushes `controller` on this page's navigation stack, handing on root and parent controllers. */

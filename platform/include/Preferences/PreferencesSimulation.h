@@ -20,7 +20,7 @@
 /* The iPad's Settings window: the list's navigation beside the pane's. */
 @interface PSSplitViewController : UIViewController
 /* The list's navigation controller, then the pane's. */
-@property(nonatomic, copy) NSArray *viewControllers;
+@property (nonatomic, copy) NSArray *viewControllers;
 @end
 
 /* Makes the Settings app's window, its navigation and root list page (once). Returns the

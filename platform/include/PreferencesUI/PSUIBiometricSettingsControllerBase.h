@@ -14,7 +14,7 @@
 #import <Preferences/PSListController.h>
 
 @interface PSUIBiometricSettingsControllerBase : PSListController {
-    NSData *_simAuthorizationToken;
+  NSData *_simAuthorizationToken;
 }
 /* The token that unlocks the page; nil until the right passcode was given. */
 - (NSData *)_authorizationToken;

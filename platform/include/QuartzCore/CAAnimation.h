@@ -33,18 +33,18 @@ CA_EXTERN NSString *const kCAFillModeRemoved;
   BOOL _removedOnCompletion;
 }
 + (instancetype)animation;
-@property(nonatomic) CFTimeInterval beginTime;
-@property(nonatomic) CFTimeInterval duration;
-@property(nonatomic) float speed;
-@property(nonatomic) CFTimeInterval timeOffset;
-@property(nonatomic) float repeatCount;
-@property(nonatomic) CFTimeInterval repeatDuration;
-@property(nonatomic) BOOL autoreverses;
-@property(nonatomic, copy) NSString *fillMode;
-@property(nonatomic, retain) CAMediaTimingFunction *timingFunction;
+@property (nonatomic) CFTimeInterval beginTime;
+@property (nonatomic) CFTimeInterval duration;
+@property (nonatomic) float speed;
+@property (nonatomic) CFTimeInterval timeOffset;
+@property (nonatomic) float repeatCount;
+@property (nonatomic) CFTimeInterval repeatDuration;
+@property (nonatomic) BOOL autoreverses;
+@property (nonatomic, copy) NSString *fillMode;
+@property (nonatomic, retain) CAMediaTimingFunction *timingFunction;
 /* Retained, as on the device. */
-@property(nonatomic, retain) id delegate;
-@property(nonatomic, getter=isRemovedOnCompletion) BOOL removedOnCompletion;
+@property (nonatomic, retain) id delegate;
+@property (nonatomic, getter=isRemovedOnCompletion) BOOL removedOnCompletion;
 /* Seconds from start to end, counting repeats and reversals; HUGE_VAL when endless. */
 - (CFTimeInterval)_simTotalDuration;
 @end
@@ -55,9 +55,9 @@ CA_EXTERN NSString *const kCAFillModeRemoved;
   BOOL _cumulative;
 }
 + (instancetype)animationWithKeyPath:(NSString *)path;
-@property(nonatomic, copy) NSString *keyPath;
-@property(nonatomic, getter=isAdditive) BOOL additive;
-@property(nonatomic, getter=isCumulative) BOOL cumulative;
+@property (nonatomic, copy) NSString *keyPath;
+@property (nonatomic, getter=isAdditive) BOOL additive;
+@property (nonatomic, getter=isCumulative) BOOL cumulative;
 @end
 
 @interface CABasicAnimation : CAPropertyAnimation {
@@ -65,9 +65,9 @@ CA_EXTERN NSString *const kCAFillModeRemoved;
   id _toValue;
   id _byValue;
 }
-@property(nonatomic, retain) id fromValue;
-@property(nonatomic, retain) id toValue;
-@property(nonatomic, retain) id byValue;
+@property (nonatomic, retain) id fromValue;
+@property (nonatomic, retain) id toValue;
+@property (nonatomic, retain) id byValue;
 @end
 
 @interface CAKeyframeAnimation : CAPropertyAnimation {
@@ -77,17 +77,17 @@ CA_EXTERN NSString *const kCAFillModeRemoved;
   CGPathRef _path;
   NSString *_calculationMode;
 }
-@property(nonatomic, copy) NSArray *values;
-@property(nonatomic, copy) NSArray *keyTimes;
-@property(nonatomic, copy) NSArray *timingFunctions;
-@property(nonatomic) CGPathRef path;
-@property(nonatomic, copy) NSString *calculationMode;
+@property (nonatomic, copy) NSArray *values;
+@property (nonatomic, copy) NSArray *keyTimes;
+@property (nonatomic, copy) NSArray *timingFunctions;
+@property (nonatomic) CGPathRef path;
+@property (nonatomic, copy) NSString *calculationMode;
 @end
 
 @interface CAAnimationGroup : CAAnimation {
   NSArray *_animations;
 }
-@property(nonatomic, copy) NSArray *animations;
+@property (nonatomic, copy) NSArray *animations;
 @end
 
 #endif

@@ -10,11 +10,11 @@
   CGPoint _endPoint;
   NSString *_type;
 }
-@property(nonatomic, copy) NSArray *colors;
-@property(nonatomic, copy) NSArray *locations;
-@property(nonatomic) CGPoint startPoint;
-@property(nonatomic) CGPoint endPoint;
-@property(nonatomic, copy) NSString *type;
+@property (nonatomic, copy) NSArray *colors;
+@property (nonatomic, copy) NSArray *locations;
+@property (nonatomic) CGPoint startPoint;
+@property (nonatomic) CGPoint endPoint;
+@property (nonatomic, copy) NSString *type;
 @end
 
 #endif

@@ -13,10 +13,10 @@ CA_EXTERN NSString *const kCAMediaTimingFunctionDefault;
   NSString *_name;
   float _c1x, _c1y, _c2x, _c2y;
 }
-@property(nonatomic, readonly, copy) NSString *name;
+@property (nonatomic, readonly, copy) NSString *name;
 + (instancetype)functionWithName:(NSString *)name;
-+ (instancetype)functionWithControlPoints:(float)c1x :(float)c1y :(float)c2x :(float)c2y;
-- (instancetype)initWithControlPoints:(float)c1x :(float)c1y :(float)c2x :(float)c2y;
++ (instancetype)functionWithControlPoints:(float)c1x:(float)c1y:(float)c2x:(float)c2y;
+- (instancetype)initWithControlPoints:(float)c1x:(float)c1y:(float)c2x:(float)c2y;
 - (void)getControlPointAtIndex:(size_t)idx values:(float[2])ptr;
 @end
 

@@ -26,20 +26,20 @@ CA_EXTERN NSString *const kCALineCapSquare;
   CGFloat _lineDashPhase;
   NSArray *_lineDashPattern;
 }
-@property(nonatomic) CGPathRef path;
+@property (nonatomic) CGPathRef path;
 /* Opaque black by default. */
-@property(nonatomic) CGColorRef fillColor;
-@property(nonatomic, copy) NSString *fillRule;
+@property (nonatomic) CGColorRef fillColor;
+@property (nonatomic, copy) NSString *fillRule;
 /* None by default. */
-@property(nonatomic) CGColorRef strokeColor;
-@property(nonatomic) CGFloat strokeStart;
-@property(nonatomic) CGFloat strokeEnd;
-@property(nonatomic) CGFloat lineWidth;
-@property(nonatomic) CGFloat miterLimit;
-@property(nonatomic, copy) NSString *lineCap;
-@property(nonatomic, copy) NSString *lineJoin;
-@property(nonatomic) CGFloat lineDashPhase;
-@property(nonatomic, copy) NSArray *lineDashPattern;
+@property (nonatomic) CGColorRef strokeColor;
+@property (nonatomic) CGFloat strokeStart;
+@property (nonatomic) CGFloat strokeEnd;
+@property (nonatomic) CGFloat lineWidth;
+@property (nonatomic) CGFloat miterLimit;
+@property (nonatomic, copy) NSString *lineCap;
+@property (nonatomic, copy) NSString *lineJoin;
+@property (nonatomic) CGFloat lineDashPhase;
+@property (nonatomic, copy) NSArray *lineDashPattern;
 @end
 
 #endif

@@ -13,11 +13,11 @@ UIKIT_EXTERN NSString *const NSStrikethroughStyleAttributeName;
 UIKIT_EXTERN NSString *const NSLinkAttributeName;
 UIKIT_EXTERN NSString *const NSKernAttributeName;
 
-typedef NS_ENUM(NSInteger, NSUnderlineStyle){
-    NSUnderlineStyleNone = 0x00,
-    NSUnderlineStyleSingle = 0x01,
-    NSUnderlineStyleThick = 0x02,
-    NSUnderlineStyleDouble = 0x09,
+typedef NS_ENUM(NSInteger, NSUnderlineStyle) {
+  NSUnderlineStyleNone = 0x00,
+  NSUnderlineStyleSingle = 0x01,
+  NSUnderlineStyleThick = 0x02,
+  NSUnderlineStyleDouble = 0x09,
 };
 
 @interface NSParagraphStyle : NSObject <NSCopying, NSMutableCopying> {
@@ -27,17 +27,17 @@ typedef NS_ENUM(NSInteger, NSUnderlineStyle){
   CGFloat _paragraphSpacing;
 }
 + (NSParagraphStyle *)defaultParagraphStyle;
-@property(nonatomic, readonly) NSTextAlignment alignment;
-@property(nonatomic, readonly) NSLineBreakMode lineBreakMode;
-@property(nonatomic, readonly) CGFloat lineSpacing;
-@property(nonatomic, readonly) CGFloat paragraphSpacing;
+@property (nonatomic, readonly) NSTextAlignment alignment;
+@property (nonatomic, readonly) NSLineBreakMode lineBreakMode;
+@property (nonatomic, readonly) CGFloat lineSpacing;
+@property (nonatomic, readonly) CGFloat paragraphSpacing;
 @end
 
 @interface NSMutableParagraphStyle : NSParagraphStyle
-@property(nonatomic) NSTextAlignment alignment;
-@property(nonatomic) NSLineBreakMode lineBreakMode;
-@property(nonatomic) CGFloat lineSpacing;
-@property(nonatomic) CGFloat paragraphSpacing;
+@property (nonatomic) NSTextAlignment alignment;
+@property (nonatomic) NSLineBreakMode lineBreakMode;
+@property (nonatomic) CGFloat lineSpacing;
+@property (nonatomic) CGFloat paragraphSpacing;
 @end
 
 #endif

@@ -5,15 +5,15 @@
 
 @class UITextField;
 
-typedef NS_ENUM(NSInteger, UIAlertActionStyle){
-    UIAlertActionStyleDefault = 0,
-    UIAlertActionStyleCancel,
-    UIAlertActionStyleDestructive,
+typedef NS_ENUM(NSInteger, UIAlertActionStyle) {
+  UIAlertActionStyleDefault = 0,
+  UIAlertActionStyleCancel,
+  UIAlertActionStyleDestructive,
 };
 
-typedef NS_ENUM(NSInteger, UIAlertControllerStyle){
-    UIAlertControllerStyleActionSheet = 0,
-    UIAlertControllerStyleAlert,
+typedef NS_ENUM(NSInteger, UIAlertControllerStyle) {
+  UIAlertControllerStyleActionSheet = 0,
+  UIAlertControllerStyleAlert,
 };
 
 @interface UIAlertAction : NSObject <NSCopying> {
@@ -22,10 +22,12 @@ typedef NS_ENUM(NSInteger, UIAlertControllerStyle){
   BOOL _enabled;
   void (^_handler)(UIAlertAction *action);
 }
-+ (instancetype)actionWithTitle:(NSString *)title style:(UIAlertActionStyle)style handler:(void (^)(UIAlertAction *action))handler;
-@property(nonatomic, readonly) NSString *title;
-@property(nonatomic, readonly) UIAlertActionStyle style;
-@property(nonatomic, getter=isEnabled) BOOL enabled;
++ (instancetype)actionWithTitle:(NSString *)title
+                          style:(UIAlertActionStyle)style
+                        handler:(void (^)(UIAlertAction *action))handler;
+@property (nonatomic, readonly) NSString *title;
+@property (nonatomic, readonly) UIAlertActionStyle style;
+@property (nonatomic, getter=isEnabled) BOOL enabled;
 @end
 
 /* An alert. Choosing an action dismisses the alert and runs the action's handler once the
@@ -37,14 +39,16 @@ typedef NS_ENUM(NSInteger, UIAlertControllerStyle){
   UIAlertAction *_preferredAction;
   NSMutableArray *_textFields;
 }
-+ (instancetype)alertControllerWithTitle:(NSString *)title message:(NSString *)message preferredStyle:(UIAlertControllerStyle)preferredStyle;
++ (instancetype)alertControllerWithTitle:(NSString *)title
+                                 message:(NSString *)message
+                          preferredStyle:(UIAlertControllerStyle)preferredStyle;
 - (void)addAction:(UIAlertAction *)action;
-@property(nonatomic, readonly) NSArray *actions;
-@property(nonatomic, retain) UIAlertAction *preferredAction;
+@property (nonatomic, readonly) NSArray *actions;
+@property (nonatomic, retain) UIAlertAction *preferredAction;
 - (void)addTextFieldWithConfigurationHandler:(void (^)(UITextField *textField))configurationHandler;
-@property(nonatomic, readonly) NSArray *textFields;
-@property(nonatomic, copy) NSString *message;
-@property(nonatomic, readonly) UIAlertControllerStyle preferredStyle;
+@property (nonatomic, readonly) NSArray *textFields;
+@property (nonatomic, copy) NSString *message;
+@property (nonatomic, readonly) UIAlertControllerStyle preferredStyle;
 @end
 
 #endif

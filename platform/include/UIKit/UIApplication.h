@@ -8,10 +8,10 @@
 
 /* UIUserInterfaceLayoutDirection: in UIView.h, whose views use it too. */
 
-typedef NS_ENUM(NSInteger, UIApplicationState){
-    UIApplicationStateActive,
-    UIApplicationStateInactive,
-    UIApplicationStateBackground,
+typedef NS_ENUM(NSInteger, UIApplicationState) {
+  UIApplicationStateActive,
+  UIApplicationStateInactive,
+  UIApplicationStateBackground,
 };
 
 typedef NSString *UIApplicationOpenURLOptionsKey;
@@ -24,7 +24,7 @@ UIKIT_EXTERN NSString *const UIApplicationWillEnterForegroundNotification;
 
 @protocol UIApplicationDelegate <NSObject>
 @optional
-@property(nonatomic, retain) UIWindow *window;
+@property (nonatomic, retain) UIWindow *window;
 @end
 
 /* The application. URLs asked to be opened are recorded; interaction-event suspension is a
@@ -39,15 +39,15 @@ UIKIT_EXTERN NSString *const UIApplicationWillEnterForegroundNotification;
   BOOL _networkActivityIndicatorVisible;
 }
 + (UIApplication *)sharedApplication;
-@property(nonatomic, assign) id<UIApplicationDelegate> delegate;
-@property(nonatomic, readonly) UIWindow *keyWindow;
-@property(nonatomic, readonly) NSArray *windows;
-@property(nonatomic, readonly) UIApplicationState applicationState;
-@property(nonatomic) NSInteger applicationIconBadgeNumber;
-@property(nonatomic, getter=isIdleTimerDisabled) BOOL idleTimerDisabled;
-@property(nonatomic, getter=isNetworkActivityIndicatorVisible) BOOL networkActivityIndicatorVisible;
-@property(nonatomic, readonly) UIInterfaceOrientation statusBarOrientation;
-@property(nonatomic, readonly) UIUserInterfaceLayoutDirection userInterfaceLayoutDirection;
+@property (nonatomic, assign) id<UIApplicationDelegate> delegate;
+@property (nonatomic, readonly) UIWindow *keyWindow;
+@property (nonatomic, readonly) NSArray *windows;
+@property (nonatomic, readonly) UIApplicationState applicationState;
+@property (nonatomic) NSInteger applicationIconBadgeNumber;
+@property (nonatomic, getter=isIdleTimerDisabled) BOOL idleTimerDisabled;
+@property (nonatomic, getter=isNetworkActivityIndicatorVisible) BOOL networkActivityIndicatorVisible;
+@property (nonatomic, readonly) UIInterfaceOrientation statusBarOrientation;
+@property (nonatomic, readonly) UIUserInterfaceLayoutDirection userInterfaceLayoutDirection;
 - (void)beginIgnoringInteractionEvents;
 - (void)endIgnoringInteractionEvents;
 - (BOOL)isIgnoringInteractionEvents;

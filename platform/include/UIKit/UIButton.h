@@ -8,15 +8,15 @@
 @class UIImage;
 @class UIColor;
 
-typedef NS_ENUM(NSInteger, UIButtonType){
-    UIButtonTypeCustom = 0,
-    UIButtonTypeSystem = 1,
-    UIButtonTypeDetailDisclosure = 2,
-    UIButtonTypeInfoLight = 3,
-    UIButtonTypeInfoDark = 4,
-    UIButtonTypeContactAdd = 5,
-    UIButtonTypeClose = 7,
-    UIButtonTypeRoundedRect = UIButtonTypeSystem,
+typedef NS_ENUM(NSInteger, UIButtonType) {
+  UIButtonTypeCustom = 0,
+  UIButtonTypeSystem = 1,
+  UIButtonTypeDetailDisclosure = 2,
+  UIButtonTypeInfoLight = 3,
+  UIButtonTypeInfoDark = 4,
+  UIButtonTypeContactAdd = 5,
+  UIButtonTypeClose = 7,
+  UIButtonTypeRoundedRect = UIButtonTypeSystem,
 };
 
 @interface UIButton : UIControl {
@@ -34,17 +34,17 @@ typedef NS_ENUM(NSInteger, UIButtonType){
   BOOL _showsTouchWhenHighlighted;
 }
 + (instancetype)buttonWithType:(UIButtonType)buttonType;
-@property(nonatomic, readonly) UIButtonType buttonType;
-@property(nonatomic, readonly) UILabel *titleLabel;
-@property(nonatomic, readonly) UIImageView *imageView;
-@property(nonatomic, readonly) NSString *currentTitle;
-@property(nonatomic, readonly) UIColor *currentTitleColor;
-@property(nonatomic, readonly) UIImage *currentImage;
-@property(nonatomic) UIEdgeInsets contentEdgeInsets;
-@property(nonatomic) UIEdgeInsets titleEdgeInsets;
-@property(nonatomic) UIEdgeInsets imageEdgeInsets;
-@property(nonatomic) BOOL adjustsImageWhenHighlighted;
-@property(nonatomic) BOOL showsTouchWhenHighlighted;
+@property (nonatomic, readonly) UIButtonType buttonType;
+@property (nonatomic, readonly) UILabel *titleLabel;
+@property (nonatomic, readonly) UIImageView *imageView;
+@property (nonatomic, readonly) NSString *currentTitle;
+@property (nonatomic, readonly) UIColor *currentTitleColor;
+@property (nonatomic, readonly) UIImage *currentImage;
+@property (nonatomic) UIEdgeInsets contentEdgeInsets;
+@property (nonatomic) UIEdgeInsets titleEdgeInsets;
+@property (nonatomic) UIEdgeInsets imageEdgeInsets;
+@property (nonatomic) BOOL adjustsImageWhenHighlighted;
+@property (nonatomic) BOOL showsTouchWhenHighlighted;
 - (void)setTitle:(NSString *)title forState:(UIControlState)state;
 - (void)setTitleColor:(UIColor *)color forState:(UIControlState)state;
 - (void)setImage:(UIImage *)image forState:(UIControlState)state;

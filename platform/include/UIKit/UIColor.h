@@ -13,13 +13,19 @@
   UIImage *_patternImage;
 }
 + (UIColor *)colorWithWhite:(CGFloat)white alpha:(CGFloat)alpha;
-+ (UIColor *)colorWithHue:(CGFloat)hue saturation:(CGFloat)saturation brightness:(CGFloat)brightness alpha:(CGFloat)alpha;
++ (UIColor *)colorWithHue:(CGFloat)hue
+               saturation:(CGFloat)saturation
+               brightness:(CGFloat)brightness
+                    alpha:(CGFloat)alpha;
 + (UIColor *)colorWithRed:(CGFloat)red green:(CGFloat)green blue:(CGFloat)blue alpha:(CGFloat)alpha;
 + (UIColor *)colorWithDisplayP3Red:(CGFloat)red green:(CGFloat)green blue:(CGFloat)blue alpha:(CGFloat)alpha;
 + (UIColor *)colorWithCGColor:(CGColorRef)cgColor;
 + (UIColor *)colorWithPatternImage:(UIImage *)image;
 - (UIColor *)initWithWhite:(CGFloat)white alpha:(CGFloat)alpha;
-- (UIColor *)initWithHue:(CGFloat)hue saturation:(CGFloat)saturation brightness:(CGFloat)brightness alpha:(CGFloat)alpha;
+- (UIColor *)initWithHue:(CGFloat)hue
+              saturation:(CGFloat)saturation
+              brightness:(CGFloat)brightness
+                   alpha:(CGFloat)alpha;
 - (UIColor *)initWithRed:(CGFloat)red green:(CGFloat)green blue:(CGFloat)blue alpha:(CGFloat)alpha;
 - (UIColor *)initWithCGColor:(CGColorRef)cgColor;
 - (UIColor *)initWithPatternImage:(UIImage *)image;
@@ -83,7 +89,7 @@
 - (UIColor *)colorWithAlphaComponent:(CGFloat)alpha;
 - (UIColor *)resolvedColorWithTraitCollection:(UITraitCollection *)traitCollection;
 /* Owned by the colour. */
-@property(nonatomic, readonly) CGColorRef CGColor;
+@property (nonatomic, readonly) CGColorRef CGColor;
 @end
 
 #endif

@@ -41,21 +41,24 @@ UIKIT_EXTERN NSString *const UIFontTextStyleCaption1;
 + (CGFloat)smallSystemFontSize;
 + (CGFloat)systemFontSize;
 - (UIFont *)fontWithSize:(CGFloat)fontSize;
-@property(nonatomic, readonly) NSString *familyName;
-@property(nonatomic, readonly) NSString *fontName;
-@property(nonatomic, readonly) CGFloat pointSize;
-@property(nonatomic, readonly) CGFloat ascender;
-@property(nonatomic, readonly) CGFloat descender;
-@property(nonatomic, readonly) CGFloat capHeight;
-@property(nonatomic, readonly) CGFloat xHeight;
-@property(nonatomic, readonly) CGFloat lineHeight;
-@property(nonatomic, readonly) CGFloat leading;
+@property (nonatomic, readonly) NSString *familyName;
+@property (nonatomic, readonly) NSString *fontName;
+@property (nonatomic, readonly) CGFloat pointSize;
+@property (nonatomic, readonly) CGFloat ascender;
+@property (nonatomic, readonly) CGFloat descender;
+@property (nonatomic, readonly) CGFloat capHeight;
+@property (nonatomic, readonly) CGFloat xHeight;
+@property (nonatomic, readonly) CGFloat lineHeight;
+@property (nonatomic, readonly) CGFloat leading;
 @end
 
 @interface NSString (UIStringDrawing)
 /* Approximate size of the text in one line with the font of NSFontAttributeName. */
 - (CGSize)sizeWithAttributes:(NSDictionary *)attrs;
-- (CGRect)boundingRectWithSize:(CGSize)size options:(NSInteger)options attributes:(NSDictionary *)attributes context:(id)context;
+- (CGRect)boundingRectWithSize:(CGSize)size
+                       options:(NSInteger)options
+                    attributes:(NSDictionary *)attributes
+                       context:(id)context;
 - (void)drawAtPoint:(CGPoint)point withAttributes:(NSDictionary *)attrs;
 - (void)drawInRect:(CGRect)rect withAttributes:(NSDictionary *)attrs;
 @end

@@ -11,12 +11,12 @@ typedef struct UIOffset {
   CGFloat horizontal, vertical;
 } UIOffset;
 
-typedef NS_OPTIONS(NSUInteger, UIRectCorner){
-    UIRectCornerTopLeft = 1 << 0,
-    UIRectCornerTopRight = 1 << 1,
-    UIRectCornerBottomLeft = 1 << 2,
-    UIRectCornerBottomRight = 1 << 3,
-    UIRectCornerAllCorners = ~0UL,
+typedef NS_OPTIONS(NSUInteger, UIRectCorner) {
+  UIRectCornerTopLeft = 1 << 0,
+  UIRectCornerTopRight = 1 << 1,
+  UIRectCornerBottomLeft = 1 << 2,
+  UIRectCornerBottomRight = 1 << 3,
+  UIRectCornerAllCorners = ~0UL,
 };
 
 static inline UIEdgeInsets UIEdgeInsetsMake(CGFloat top, CGFloat left, CGFloat bottom, CGFloat right) {

@@ -3,14 +3,14 @@
 
 #import <UIKit/UIView.h>
 
-typedef NS_ENUM(NSInteger, UIGestureRecognizerState){
-    UIGestureRecognizerStatePossible,
-    UIGestureRecognizerStateBegan,
-    UIGestureRecognizerStateChanged,
-    UIGestureRecognizerStateEnded,
-    UIGestureRecognizerStateCancelled,
-    UIGestureRecognizerStateFailed,
-    UIGestureRecognizerStateRecognized = UIGestureRecognizerStateEnded,
+typedef NS_ENUM(NSInteger, UIGestureRecognizerState) {
+  UIGestureRecognizerStatePossible,
+  UIGestureRecognizerStateBegan,
+  UIGestureRecognizerStateChanged,
+  UIGestureRecognizerStateEnded,
+  UIGestureRecognizerStateCancelled,
+  UIGestureRecognizerStateFailed,
+  UIGestureRecognizerStateRecognized = UIGestureRecognizerStateEnded,
 };
 
 @class UIGestureRecognizer;
@@ -18,7 +18,8 @@ typedef NS_ENUM(NSInteger, UIGestureRecognizerState){
 @protocol UIGestureRecognizerDelegate <NSObject>
 @optional
 - (BOOL)gestureRecognizerShouldBegin:(UIGestureRecognizer *)gestureRecognizer;
-- (BOOL)gestureRecognizer:(UIGestureRecognizer *)gestureRecognizer shouldRecognizeSimultaneouslyWithGestureRecognizer:(UIGestureRecognizer *)otherGestureRecognizer;
+- (BOOL)gestureRecognizer:(UIGestureRecognizer *)gestureRecognizer
+    shouldRecognizeSimultaneouslyWithGestureRecognizer:(UIGestureRecognizer *)otherGestureRecognizer;
 - (BOOL)gestureRecognizer:(UIGestureRecognizer *)gestureRecognizer shouldReceiveTouch:(UITouch *)touch;
 @end
 
@@ -37,14 +38,14 @@ typedef NS_ENUM(NSInteger, UIGestureRecognizerState){
 - (instancetype)initWithTarget:(id)target action:(SEL)action;
 - (void)addTarget:(id)target action:(SEL)action;
 - (void)removeTarget:(id)target action:(SEL)action;
-@property(nonatomic, readonly) UIGestureRecognizerState state;
-@property(nonatomic, assign) id<UIGestureRecognizerDelegate> delegate;
-@property(nonatomic, getter=isEnabled) BOOL enabled;
-@property(nonatomic, readonly) UIView *view;
-@property(nonatomic) BOOL cancelsTouchesInView;
-@property(nonatomic) BOOL delaysTouchesBegan;
-@property(nonatomic) BOOL delaysTouchesEnded;
-@property(nonatomic, readonly) NSUInteger numberOfTouches;
+@property (nonatomic, readonly) UIGestureRecognizerState state;
+@property (nonatomic, assign) id<UIGestureRecognizerDelegate> delegate;
+@property (nonatomic, getter=isEnabled) BOOL enabled;
+@property (nonatomic, readonly) UIView *view;
+@property (nonatomic) BOOL cancelsTouchesInView;
+@property (nonatomic) BOOL delaysTouchesBegan;
+@property (nonatomic) BOOL delaysTouchesEnded;
+@property (nonatomic, readonly) NSUInteger numberOfTouches;
 - (void)requireGestureRecognizerToFail:(UIGestureRecognizer *)otherGestureRecognizer;
 - (CGPoint)locationInView:(UIView *)view;
 - (CGPoint)locationOfTouch:(NSUInteger)touchIndex inView:(UIView *)view;

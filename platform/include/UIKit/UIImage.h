@@ -7,26 +7,26 @@
 @class UITraitCollection;
 @class UIColor;
 
-typedef NS_ENUM(NSInteger, UIImageOrientation){
-    UIImageOrientationUp,
-    UIImageOrientationDown,
-    UIImageOrientationLeft,
-    UIImageOrientationRight,
-    UIImageOrientationUpMirrored,
-    UIImageOrientationDownMirrored,
-    UIImageOrientationLeftMirrored,
-    UIImageOrientationRightMirrored,
+typedef NS_ENUM(NSInteger, UIImageOrientation) {
+  UIImageOrientationUp,
+  UIImageOrientationDown,
+  UIImageOrientationLeft,
+  UIImageOrientationRight,
+  UIImageOrientationUpMirrored,
+  UIImageOrientationDownMirrored,
+  UIImageOrientationLeftMirrored,
+  UIImageOrientationRightMirrored,
 };
 
-typedef NS_ENUM(NSInteger, UIImageRenderingMode){
-    UIImageRenderingModeAutomatic = 0,
-    UIImageRenderingModeAlwaysOriginal = 1,
-    UIImageRenderingModeAlwaysTemplate = 2,
+typedef NS_ENUM(NSInteger, UIImageRenderingMode) {
+  UIImageRenderingModeAutomatic = 0,
+  UIImageRenderingModeAlwaysOriginal = 1,
+  UIImageRenderingModeAlwaysTemplate = 2,
 };
 
-typedef NS_ENUM(NSInteger, UIImageResizingMode){
-    UIImageResizingModeTile = 0,
-    UIImageResizingModeStretch = 1,
+typedef NS_ENUM(NSInteger, UIImageResizingMode) {
+  UIImageResizingModeTile = 0,
+  UIImageResizingModeStretch = 1,
 };
 
 /* An image: its size in points, its scale and a bitmap standing for its pixels. Images
@@ -40,7 +40,9 @@ typedef NS_ENUM(NSInteger, UIImageResizingMode){
   UIEdgeInsets _capInsets;
 }
 + (UIImage *)imageNamed:(NSString *)name;
-+ (UIImage *)imageNamed:(NSString *)name inBundle:(NSBundle *)bundle compatibleWithTraitCollection:(UITraitCollection *)traitCollection;
++ (UIImage *)imageNamed:(NSString *)name
+                         inBundle:(NSBundle *)bundle
+    compatibleWithTraitCollection:(UITraitCollection *)traitCollection;
 + (UIImage *)imageWithContentsOfFile:(NSString *)path;
 + (UIImage *)imageWithData:(NSData *)data;
 + (UIImage *)imageWithData:(NSData *)data scale:(CGFloat)scale;
@@ -52,12 +54,12 @@ typedef NS_ENUM(NSInteger, UIImageResizingMode){
 - (instancetype)initWithCGImage:(CGImageRef)cgImage;
 - (instancetype)initWithCGImage:(CGImageRef)cgImage scale:(CGFloat)scale orientation:(UIImageOrientation)orientation;
 
-@property(nonatomic, readonly) CGSize size;
-@property(nonatomic, readonly) CGImageRef CGImage;
-@property(nonatomic, readonly) UIImageOrientation imageOrientation;
-@property(nonatomic, readonly) CGFloat scale;
-@property(nonatomic, readonly) UIImageRenderingMode renderingMode;
-@property(nonatomic, readonly) UIEdgeInsets capInsets;
+@property (nonatomic, readonly) CGSize size;
+@property (nonatomic, readonly) CGImageRef CGImage;
+@property (nonatomic, readonly) UIImageOrientation imageOrientation;
+@property (nonatomic, readonly) CGFloat scale;
+@property (nonatomic, readonly) UIImageRenderingMode renderingMode;
+@property (nonatomic, readonly) UIEdgeInsets capInsets;
 
 - (UIImage *)imageWithRenderingMode:(UIImageRenderingMode)renderingMode;
 - (UIImage *)imageWithTintColor:(UIColor *)color;

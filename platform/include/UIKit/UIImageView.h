@@ -16,15 +16,15 @@
 }
 - (instancetype)initWithImage:(UIImage *)image;
 - (instancetype)initWithImage:(UIImage *)image highlightedImage:(UIImage *)highlightedImage;
-@property(nonatomic, retain) UIImage *image;
-@property(nonatomic, retain) UIImage *highlightedImage;
-@property(nonatomic, getter=isHighlighted) BOOL highlighted;
-@property(nonatomic, copy) NSArray *animationImages;
-@property(nonatomic) NSTimeInterval animationDuration;
-@property(nonatomic) NSInteger animationRepeatCount;
+@property (nonatomic, retain) UIImage *image;
+@property (nonatomic, retain) UIImage *highlightedImage;
+@property (nonatomic, getter=isHighlighted) BOOL highlighted;
+@property (nonatomic, copy) NSArray *animationImages;
+@property (nonatomic) NSTimeInterval animationDuration;
+@property (nonatomic) NSInteger animationRepeatCount;
 - (void)startAnimating;
 - (void)stopAnimating;
-@property(nonatomic, readonly, getter=isAnimating) BOOL animating;
+@property (nonatomic, readonly, getter=isAnimating) BOOL animating;
 @end
 
 #endif

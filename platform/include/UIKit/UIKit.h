@@ -31,11 +31,13 @@
 #import <UIKit/UISlider.h>
 #import <UIKit/UISegmentedControl.h>
 #import <UIKit/UITextField.h>
+#import <UIKit/UISearchBar.h>
 #import <UIKit/UIScrollView.h>
 #import <UIKit/UITextView.h>
 #import <UIKit/UITableViewCell.h>
 #import <UIKit/UITableView.h>
 #import <UIKit/UIViewController.h>
+#import <UIKit/UISearchController.h>
 #import <UIKit/UIBarButtonItem.h>
 #import <UIKit/UINavigationBar.h>
 #import <UIKit/UINavigationController.h>

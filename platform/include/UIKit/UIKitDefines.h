@@ -11,10 +11,14 @@
 #endif
 
 #ifndef NS_ENUM
-#define NS_ENUM(_type, _name) _type _name; enum
+#define NS_ENUM(_type, _name) \
+  _type _name;                \
+  enum
 #endif
 #ifndef NS_OPTIONS
-#define NS_OPTIONS(_type, _name) _type _name; enum
+#define NS_OPTIONS(_type, _name) \
+  _type _name;                   \
+  enum
 #endif
 
 #endif

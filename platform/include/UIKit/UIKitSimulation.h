@@ -40,7 +40,22 @@ UIKIT_EXTERN BOOL SimTapBarButtonItem(UIBarButtonItem *item);
 /* Selects a row as a tap would: willSelect, then didSelect of the table's delegate. */
 UIKIT_EXTERN BOOL SimTableViewSelectRow(UITableView *tableView, NSIndexPath *indexPath);
 /* Commits an edit (e.g. a swipe-to-delete) through the table's data source. */
-UIKIT_EXTERN BOOL SimTableViewCommitEditing(UITableView *tableView, UITableViewCellEditingStyle style, NSIndexPath *indexPath);
+UIKIT_EXTERN BOOL SimTableViewCommitEditing(UITableView *tableView, UITableViewCellEditingStyle style,
+                                            NSIndexPath *indexPath);
+
+/* The user types `text` into a search bar: the bar takes the keyboard (its search controller,
+   if any, becomes active), then one keystroke per character. NO when the bar refuses. */
+UIKIT_EXTERN BOOL SimSearchBarType(UISearchBar *bar, NSString *text);
+/* The clear button of the bar's field: the text goes in one change; the bar keeps the keyboard. */
+UIKIT_EXTERN BOOL SimSearchBarClear(UISearchBar *bar);
+/* The bar's Cancel button (shown while its search is active): the delegate hears of it and the
+   search controller is dismissed. */
+UIKIT_EXTERN BOOL SimSearchBarTapCancel(UISearchBar *bar);
+/* The titles of the table's section index as it shows them, or nil when it shows none. */
+UIKIT_EXTERN NSArray *SimTableViewSectionIndexTitles(UITableView *tableView);
+/* A touch on the section index at `title`: the table scrolls to the section its data source
+   names for it. NO when no index shows that title or interaction is ignored. */
+UIKIT_EXTERN BOOL SimTableViewTapSectionIndex(UITableView *tableView, NSString *title);
 
 /* A navigation controller held as one level of another's stack, as a collapsed split view
    shows its detail navigation on a phone (pushViewController:animated: refuses them). */
@@ -62,14 +77,16 @@ UIKIT_EXTERN BOOL SimTableViewCommitEditing(UITableView *tableView, UITableViewC
 @end
 
 @interface UIImage (Private)
-+ (UIImage *)_applicationIconImageForBundleIdentifier:(NSString *)bundleIdentifier format:(int)format scale:(CGFloat)scale;
++ (UIImage *)_applicationIconImageForBundleIdentifier:(NSString *)bundleIdentifier
+                                               format:(int)format
+                                                scale:(CGFloat)scale;
 + (UIImage *)_applicationIconImageForBundleIdentifier:(NSString *)bundleIdentifier format:(int)format;
 - (UIImage *)_applicationIconImageForFormat:(int)format precomposed:(BOOL)precomposed;
 - (UIImage *)_applicationIconImageForFormat:(int)format precomposed:(BOOL)precomposed scale:(CGFloat)scale;
 @end
 
 @interface UIAlertAction (Private)
-@property(nonatomic, copy) void (^handler)(UIAlertAction *action);
+@property (nonatomic, copy) void (^handler)(UIAlertAction *action);
 @end
 
 @interface UIAlertController (Private)
@@ -77,7 +94,7 @@ UIKIT_EXTERN BOOL SimTableViewCommitEditing(UITableView *tableView, UITableViewC
 @end
 
 @interface UITableViewCell (Private)
-@property(nonatomic, retain) UIColor *separatorColor;
+@property (nonatomic, retain) UIColor *separatorColor;
 @end
 
 #endif

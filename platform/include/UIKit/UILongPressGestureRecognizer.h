@@ -7,8 +7,8 @@
   NSTimeInterval _minimumPressDuration;
   CGFloat _allowableMovement;
 }
-@property(nonatomic) NSTimeInterval minimumPressDuration;
-@property(nonatomic) CGFloat allowableMovement;
+@property (nonatomic) NSTimeInterval minimumPressDuration;
+@property (nonatomic) CGFloat allowableMovement;
 @end
 
 #endif

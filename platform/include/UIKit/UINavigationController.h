@@ -18,16 +18,16 @@
 - (UIViewController *)popViewControllerAnimated:(BOOL)animated;
 - (NSArray *)popToViewController:(UIViewController *)viewController animated:(BOOL)animated;
 - (NSArray *)popToRootViewControllerAnimated:(BOOL)animated;
-@property(nonatomic, readonly) UIViewController *topViewController;
-@property(nonatomic, readonly) UIViewController *visibleViewController;
-@property(nonatomic, copy) NSArray *viewControllers;
+@property (nonatomic, readonly) UIViewController *topViewController;
+@property (nonatomic, readonly) UIViewController *visibleViewController;
+@property (nonatomic, copy) NSArray *viewControllers;
 - (void)setViewControllers:(NSArray *)viewControllers animated:(BOOL)animated;
-@property(nonatomic, getter=isNavigationBarHidden) BOOL navigationBarHidden;
+@property (nonatomic, getter=isNavigationBarHidden) BOOL navigationBarHidden;
 - (void)setNavigationBarHidden:(BOOL)hidden animated:(BOOL)animated;
-@property(nonatomic, readonly) UINavigationBar *navigationBar;
-@property(nonatomic, getter=isToolbarHidden) BOOL toolbarHidden;
+@property (nonatomic, readonly) UINavigationBar *navigationBar;
+@property (nonatomic, getter=isToolbarHidden) BOOL toolbarHidden;
 - (void)setToolbarHidden:(BOOL)hidden animated:(BOOL)animated;
-@property(nonatomic, assign) id delegate;
+@property (nonatomic, assign) id delegate;
 @end
 
 #endif

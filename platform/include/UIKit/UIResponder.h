@@ -8,26 +8,26 @@
 @class UIView;
 @class UIWindow;
 
-typedef NS_ENUM(NSInteger, UITouchPhase){
-    UITouchPhaseBegan,
-    UITouchPhaseMoved,
-    UITouchPhaseStationary,
-    UITouchPhaseEnded,
-    UITouchPhaseCancelled,
+typedef NS_ENUM(NSInteger, UITouchPhase) {
+  UITouchPhaseBegan,
+  UITouchPhaseMoved,
+  UITouchPhaseStationary,
+  UITouchPhaseEnded,
+  UITouchPhaseCancelled,
 };
 
-typedef NS_ENUM(NSInteger, UIEventType){
-    UIEventTypeTouches,
-    UIEventTypeMotion,
-    UIEventTypeRemoteControl,
-    UIEventTypePresses,
+typedef NS_ENUM(NSInteger, UIEventType) {
+  UIEventTypeTouches,
+  UIEventTypeMotion,
+  UIEventTypeRemoteControl,
+  UIEventTypePresses,
 };
 
 @interface UIResponder : NSObject
-@property(nonatomic, readonly) UIResponder *nextResponder;
-@property(nonatomic, readonly) BOOL canBecomeFirstResponder;
-@property(nonatomic, readonly) BOOL canResignFirstResponder;
-@property(nonatomic, readonly) BOOL isFirstResponder;
+@property (nonatomic, readonly) UIResponder *nextResponder;
+@property (nonatomic, readonly) BOOL canBecomeFirstResponder;
+@property (nonatomic, readonly) BOOL canResignFirstResponder;
+@property (nonatomic, readonly) BOOL isFirstResponder;
 - (BOOL)becomeFirstResponder;
 - (BOOL)resignFirstResponder;
 /* Touches go up the responder chain unless handled. */
@@ -47,11 +47,11 @@ typedef NS_ENUM(NSInteger, UIEventType){
   NSUInteger _tapCount;
   NSTimeInterval _timestamp;
 }
-@property(nonatomic, readonly) NSTimeInterval timestamp;
-@property(nonatomic, readonly) UITouchPhase phase;
-@property(nonatomic, readonly) NSUInteger tapCount;
-@property(nonatomic, readonly) UIView *view;
-@property(nonatomic, readonly) UIWindow *window;
+@property (nonatomic, readonly) NSTimeInterval timestamp;
+@property (nonatomic, readonly) UITouchPhase phase;
+@property (nonatomic, readonly) NSUInteger tapCount;
+@property (nonatomic, readonly) UIView *view;
+@property (nonatomic, readonly) UIWindow *window;
 /* nil: window coordinates (the top-most ancestor's when the view has no window). */
 - (CGPoint)locationInView:(UIView *)view;
 - (CGPoint)previousLocationInView:(UIView *)view;
@@ -61,66 +61,66 @@ typedef NS_ENUM(NSInteger, UIEventType){
   NSSet *_touches;
   NSTimeInterval _timestamp;
 }
-@property(nonatomic, readonly) UIEventType type;
-@property(nonatomic, readonly) NSTimeInterval timestamp;
+@property (nonatomic, readonly) UIEventType type;
+@property (nonatomic, readonly) NSTimeInterval timestamp;
 - (NSSet *)allTouches;
 - (NSSet *)touchesForView:(UIView *)view;
 - (NSSet *)touchesForWindow:(UIWindow *)window;
 @end
 
 @protocol UIKeyInput <NSObject>
-@property(nonatomic, readonly) BOOL hasText;
+@property (nonatomic, readonly) BOOL hasText;
 - (void)insertText:(NSString *)text;
 - (void)deleteBackward;
 @end
 
-typedef NS_ENUM(NSInteger, UIKeyboardType){
-    UIKeyboardTypeDefault,
-    UIKeyboardTypeASCIICapable,
-    UIKeyboardTypeNumbersAndPunctuation,
-    UIKeyboardTypeURL,
-    UIKeyboardTypeNumberPad,
-    UIKeyboardTypePhonePad,
-    UIKeyboardTypeNamePhonePad,
-    UIKeyboardTypeEmailAddress,
-    UIKeyboardTypeDecimalPad,
-    UIKeyboardTypeTwitter,
-    UIKeyboardTypeWebSearch,
-    UIKeyboardTypeASCIICapableNumberPad,
+typedef NS_ENUM(NSInteger, UIKeyboardType) {
+  UIKeyboardTypeDefault,
+  UIKeyboardTypeASCIICapable,
+  UIKeyboardTypeNumbersAndPunctuation,
+  UIKeyboardTypeURL,
+  UIKeyboardTypeNumberPad,
+  UIKeyboardTypePhonePad,
+  UIKeyboardTypeNamePhonePad,
+  UIKeyboardTypeEmailAddress,
+  UIKeyboardTypeDecimalPad,
+  UIKeyboardTypeTwitter,
+  UIKeyboardTypeWebSearch,
+  UIKeyboardTypeASCIICapableNumberPad,
 };
 
-typedef NS_ENUM(NSInteger, UITextAutocapitalizationType){
-    UITextAutocapitalizationTypeNone,
-    UITextAutocapitalizationTypeWords,
-    UITextAutocapitalizationTypeSentences,
-    UITextAutocapitalizationTypeAllCharacters,
+typedef NS_ENUM(NSInteger, UITextAutocapitalizationType) {
+  UITextAutocapitalizationTypeNone,
+  UITextAutocapitalizationTypeWords,
+  UITextAutocapitalizationTypeSentences,
+  UITextAutocapitalizationTypeAllCharacters,
 };
 
-typedef NS_ENUM(NSInteger, UITextAutocorrectionType){
-    UITextAutocorrectionTypeDefault,
-    UITextAutocorrectionTypeNo,
-    UITextAutocorrectionTypeYes,
+typedef NS_ENUM(NSInteger, UITextAutocorrectionType) {
+  UITextAutocorrectionTypeDefault,
+  UITextAutocorrectionTypeNo,
+  UITextAutocorrectionTypeYes,
 };
 
-typedef NS_ENUM(NSInteger, UIKeyboardAppearance){
-    UIKeyboardAppearanceDefault,
-    UIKeyboardAppearanceDark,
-    UIKeyboardAppearanceLight,
+typedef NS_ENUM(NSInteger, UIKeyboardAppearance) {
+  UIKeyboardAppearanceDefault,
+  UIKeyboardAppearanceDark,
+  UIKeyboardAppearanceLight,
 };
 
-typedef NS_ENUM(NSInteger, UIReturnKeyType){
-    UIReturnKeyDefault,
-    UIReturnKeyGo,
-    UIReturnKeyGoogle,
-    UIReturnKeyJoin,
-    UIReturnKeyNext,
-    UIReturnKeyRoute,
-    UIReturnKeySearch,
-    UIReturnKeySend,
-    UIReturnKeyYahoo,
-    UIReturnKeyDone,
-    UIReturnKeyEmergencyCall,
-    UIReturnKeyContinue,
+typedef NS_ENUM(NSInteger, UIReturnKeyType) {
+  UIReturnKeyDefault,
+  UIReturnKeyGo,
+  UIReturnKeyGoogle,
+  UIReturnKeyJoin,
+  UIReturnKeyNext,
+  UIReturnKeyRoute,
+  UIReturnKeySearch,
+  UIReturnKeySend,
+  UIReturnKeyYahoo,
+  UIReturnKeyDone,
+  UIReturnKeyEmergencyCall,
+  UIReturnKeyContinue,
 };
 
 #endif

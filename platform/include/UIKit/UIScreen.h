@@ -8,12 +8,12 @@
 @interface UIScreen : NSObject <UITraitEnvironment>
 + (UIScreen *)mainScreen;
 + (NSArray *)screens;
-@property(nonatomic, readonly) CGRect bounds;
-@property(nonatomic, readonly) CGFloat scale;
-@property(nonatomic, readonly) CGRect nativeBounds;
-@property(nonatomic, readonly) CGFloat nativeScale;
-@property(nonatomic) CGFloat brightness;
-@property(nonatomic, readonly) UITraitCollection *traitCollection;
+@property (nonatomic, readonly) CGRect bounds;
+@property (nonatomic, readonly) CGFloat scale;
+@property (nonatomic, readonly) CGRect nativeBounds;
+@property (nonatomic, readonly) CGFloat nativeScale;
+@property (nonatomic) CGFloat brightness;
+@property (nonatomic, readonly) UITraitCollection *traitCollection;
 @end
 
 #endif

@@ -3,10 +3,10 @@
 
 #import <UIKit/UIView.h>
 
-typedef NS_ENUM(NSInteger, UIScrollViewKeyboardDismissMode){
-    UIScrollViewKeyboardDismissModeNone,
-    UIScrollViewKeyboardDismissModeOnDrag,
-    UIScrollViewKeyboardDismissModeInteractive,
+typedef NS_ENUM(NSInteger, UIScrollViewKeyboardDismissMode) {
+  UIScrollViewKeyboardDismissModeNone,
+  UIScrollViewKeyboardDismissModeOnDrag,
+  UIScrollViewKeyboardDismissModeInteractive,
 };
 
 @protocol UIScrollViewDelegate <NSObject>
@@ -29,19 +29,19 @@ typedef NS_ENUM(NSInteger, UIScrollViewKeyboardDismissMode){
   BOOL _showsHorizontalScrollIndicator;
   UIScrollViewKeyboardDismissMode _keyboardDismissMode;
 }
-@property(nonatomic) CGPoint contentOffset;
-@property(nonatomic) CGSize contentSize;
-@property(nonatomic) UIEdgeInsets contentInset;
-@property(nonatomic) UIEdgeInsets scrollIndicatorInsets;
-@property(nonatomic, assign) id delegate;
-@property(nonatomic, getter=isScrollEnabled) BOOL scrollEnabled;
-@property(nonatomic) BOOL bounces;
-@property(nonatomic) BOOL alwaysBounceVertical;
-@property(nonatomic) BOOL alwaysBounceHorizontal;
-@property(nonatomic, getter=isPagingEnabled) BOOL pagingEnabled;
-@property(nonatomic) BOOL showsVerticalScrollIndicator;
-@property(nonatomic) BOOL showsHorizontalScrollIndicator;
-@property(nonatomic) UIScrollViewKeyboardDismissMode keyboardDismissMode;
+@property (nonatomic) CGPoint contentOffset;
+@property (nonatomic) CGSize contentSize;
+@property (nonatomic) UIEdgeInsets contentInset;
+@property (nonatomic) UIEdgeInsets scrollIndicatorInsets;
+@property (nonatomic, assign) id delegate;
+@property (nonatomic, getter=isScrollEnabled) BOOL scrollEnabled;
+@property (nonatomic) BOOL bounces;
+@property (nonatomic) BOOL alwaysBounceVertical;
+@property (nonatomic) BOOL alwaysBounceHorizontal;
+@property (nonatomic, getter=isPagingEnabled) BOOL pagingEnabled;
+@property (nonatomic) BOOL showsVerticalScrollIndicator;
+@property (nonatomic) BOOL showsHorizontalScrollIndicator;
+@property (nonatomic) UIScrollViewKeyboardDismissMode keyboardDismissMode;
 - (void)setContentOffset:(CGPoint)contentOffset animated:(BOOL)animated;
 - (void)scrollRectToVisible:(CGRect)rect animated:(BOOL)animated;
 @end

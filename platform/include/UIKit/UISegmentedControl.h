@@ -11,9 +11,9 @@ enum { UISegmentedControlNoSegment = -1 };
   BOOL _momentary;
 }
 - (instancetype)initWithItems:(NSArray *)items;
-@property(nonatomic, getter=isMomentary) BOOL momentary;
-@property(nonatomic, readonly) NSUInteger numberOfSegments;
-@property(nonatomic) NSInteger selectedSegmentIndex;
+@property (nonatomic, getter=isMomentary) BOOL momentary;
+@property (nonatomic, readonly) NSUInteger numberOfSegments;
+@property (nonatomic) NSInteger selectedSegmentIndex;
 - (void)insertSegmentWithTitle:(NSString *)title atIndex:(NSUInteger)segment animated:(BOOL)animated;
 - (void)removeSegmentAtIndex:(NSUInteger)segment animated:(BOOL)animated;
 - (void)removeAllSegments;

@@ -13,12 +13,12 @@
   UIColor *_minimumTrackTintColor;
   UIColor *_maximumTrackTintColor;
 }
-@property(nonatomic) float value;
-@property(nonatomic) float minimumValue;
-@property(nonatomic) float maximumValue;
-@property(nonatomic, getter=isContinuous) BOOL continuous;
-@property(nonatomic, retain) UIColor *minimumTrackTintColor;
-@property(nonatomic, retain) UIColor *maximumTrackTintColor;
+@property (nonatomic) float value;
+@property (nonatomic) float minimumValue;
+@property (nonatomic) float maximumValue;
+@property (nonatomic, getter=isContinuous) BOOL continuous;
+@property (nonatomic, retain) UIColor *minimumTrackTintColor;
+@property (nonatomic, retain) UIColor *maximumTrackTintColor;
 - (void)setValue:(float)value animated:(BOOL)animated;
 @end
 

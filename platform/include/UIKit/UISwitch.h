@@ -11,9 +11,9 @@
   UIColor *_onTintColor;
   UIColor *_thumbTintColor;
 }
-@property(nonatomic, retain) UIColor *onTintColor;
-@property(nonatomic, retain) UIColor *thumbTintColor;
-@property(nonatomic, getter=isOn) BOOL on;
+@property (nonatomic, retain) UIColor *onTintColor;
+@property (nonatomic, retain) UIColor *thumbTintColor;
+@property (nonatomic, getter=isOn) BOOL on;
 - (void)setOn:(BOOL)on animated:(BOOL)animated;
 @end
 

@@ -7,38 +7,38 @@
 @class UIImageView;
 @class UIColor;
 
-typedef NS_ENUM(NSInteger, UITableViewCellStyle){
-    UITableViewCellStyleDefault,
-    UITableViewCellStyleValue1,
-    UITableViewCellStyleValue2,
-    UITableViewCellStyleSubtitle,
+typedef NS_ENUM(NSInteger, UITableViewCellStyle) {
+  UITableViewCellStyleDefault,
+  UITableViewCellStyleValue1,
+  UITableViewCellStyleValue2,
+  UITableViewCellStyleSubtitle,
 };
 
-typedef NS_ENUM(NSInteger, UITableViewCellSeparatorStyle){
-    UITableViewCellSeparatorStyleNone,
-    UITableViewCellSeparatorStyleSingleLine,
-    UITableViewCellSeparatorStyleSingleLineEtched,
+typedef NS_ENUM(NSInteger, UITableViewCellSeparatorStyle) {
+  UITableViewCellSeparatorStyleNone,
+  UITableViewCellSeparatorStyleSingleLine,
+  UITableViewCellSeparatorStyleSingleLineEtched,
 };
 
-typedef NS_ENUM(NSInteger, UITableViewCellSelectionStyle){
-    UITableViewCellSelectionStyleNone,
-    UITableViewCellSelectionStyleBlue,
-    UITableViewCellSelectionStyleGray,
-    UITableViewCellSelectionStyleDefault,
+typedef NS_ENUM(NSInteger, UITableViewCellSelectionStyle) {
+  UITableViewCellSelectionStyleNone,
+  UITableViewCellSelectionStyleBlue,
+  UITableViewCellSelectionStyleGray,
+  UITableViewCellSelectionStyleDefault,
 };
 
-typedef NS_ENUM(NSInteger, UITableViewCellEditingStyle){
-    UITableViewCellEditingStyleNone,
-    UITableViewCellEditingStyleDelete,
-    UITableViewCellEditingStyleInsert,
+typedef NS_ENUM(NSInteger, UITableViewCellEditingStyle) {
+  UITableViewCellEditingStyleNone,
+  UITableViewCellEditingStyleDelete,
+  UITableViewCellEditingStyleInsert,
 };
 
-typedef NS_ENUM(NSInteger, UITableViewCellAccessoryType){
-    UITableViewCellAccessoryNone,
-    UITableViewCellAccessoryDisclosureIndicator,
-    UITableViewCellAccessoryDetailDisclosureButton,
-    UITableViewCellAccessoryCheckmark,
-    UITableViewCellAccessoryDetailButton,
+typedef NS_ENUM(NSInteger, UITableViewCellAccessoryType) {
+  UITableViewCellAccessoryNone,
+  UITableViewCellAccessoryDisclosureIndicator,
+  UITableViewCellAccessoryDetailDisclosureButton,
+  UITableViewCellAccessoryCheckmark,
+  UITableViewCellAccessoryDetailButton,
 };
 
 /* A table row. Its layout puts the image view at the left, the labels after it as the style
@@ -70,27 +70,27 @@ typedef NS_ENUM(NSInteger, UITableViewCellAccessoryType){
   UITableViewCellSeparatorStyle _separatorStyle;
 }
 - (instancetype)initWithStyle:(UITableViewCellStyle)style reuseIdentifier:(NSString *)reuseIdentifier;
-@property(nonatomic, readonly) UITableViewCellStyle style;
-@property(nonatomic, readonly, copy) NSString *reuseIdentifier;
-@property(nonatomic, readonly) UIView *contentView;
-@property(nonatomic, readonly) UILabel *textLabel;
+@property (nonatomic, readonly) UITableViewCellStyle style;
+@property (nonatomic, readonly, copy) NSString *reuseIdentifier;
+@property (nonatomic, readonly) UIView *contentView;
+@property (nonatomic, readonly) UILabel *textLabel;
 /* nil in the default style. */
-@property(nonatomic, readonly) UILabel *detailTextLabel;
-@property(nonatomic, readonly) UIImageView *imageView;
-@property(nonatomic, retain) UIView *accessoryView;
-@property(nonatomic, retain) UIView *editingAccessoryView;
-@property(nonatomic) UITableViewCellAccessoryType accessoryType;
-@property(nonatomic) UITableViewCellAccessoryType editingAccessoryType;
-@property(nonatomic) UITableViewCellSelectionStyle selectionStyle;
-@property(nonatomic, retain) UIView *backgroundView;
-@property(nonatomic, retain) UIView *selectedBackgroundView;
-@property(nonatomic, getter=isSelected) BOOL selected;
-@property(nonatomic, getter=isHighlighted) BOOL highlighted;
-@property(nonatomic, getter=isEditing) BOOL editing;
-@property(nonatomic) BOOL showsReorderControl;
-@property(nonatomic) NSInteger indentationLevel;
-@property(nonatomic) CGFloat indentationWidth;
-@property(nonatomic) UIEdgeInsets separatorInset;
+@property (nonatomic, readonly) UILabel *detailTextLabel;
+@property (nonatomic, readonly) UIImageView *imageView;
+@property (nonatomic, retain) UIView *accessoryView;
+@property (nonatomic, retain) UIView *editingAccessoryView;
+@property (nonatomic) UITableViewCellAccessoryType accessoryType;
+@property (nonatomic) UITableViewCellAccessoryType editingAccessoryType;
+@property (nonatomic) UITableViewCellSelectionStyle selectionStyle;
+@property (nonatomic, retain) UIView *backgroundView;
+@property (nonatomic, retain) UIView *selectedBackgroundView;
+@property (nonatomic, getter=isSelected) BOOL selected;
+@property (nonatomic, getter=isHighlighted) BOOL highlighted;
+@property (nonatomic, getter=isEditing) BOOL editing;
+@property (nonatomic) BOOL showsReorderControl;
+@property (nonatomic) NSInteger indentationLevel;
+@property (nonatomic) CGFloat indentationWidth;
+@property (nonatomic) UIEdgeInsets separatorInset;
 - (void)setSelected:(BOOL)selected animated:(BOOL)animated;
 - (void)setHighlighted:(BOOL)highlighted animated:(BOOL)animated;
 - (void)setEditing:(BOOL)editing animated:(BOOL)animated;

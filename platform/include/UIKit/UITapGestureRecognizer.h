@@ -7,8 +7,8 @@
   NSUInteger _numberOfTapsRequired;
   NSUInteger _numberOfTouchesRequired;
 }
-@property(nonatomic) NSUInteger numberOfTapsRequired;
-@property(nonatomic) NSUInteger numberOfTouchesRequired;
+@property (nonatomic) NSUInteger numberOfTapsRequired;
+@property (nonatomic) NSUInteger numberOfTouchesRequired;
 @end
 
 #endif

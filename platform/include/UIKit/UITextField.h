@@ -8,18 +8,18 @@
 @class UIColor;
 @class UITextField;
 
-typedef NS_ENUM(NSInteger, UITextBorderStyle){
-    UITextBorderStyleNone,
-    UITextBorderStyleLine,
-    UITextBorderStyleBezel,
-    UITextBorderStyleRoundedRect,
+typedef NS_ENUM(NSInteger, UITextBorderStyle) {
+  UITextBorderStyleNone,
+  UITextBorderStyleLine,
+  UITextBorderStyleBezel,
+  UITextBorderStyleRoundedRect,
 };
 
-typedef NS_ENUM(NSInteger, UITextFieldViewMode){
-    UITextFieldViewModeNever,
-    UITextFieldViewModeWhileEditing,
-    UITextFieldViewModeUnlessEditing,
-    UITextFieldViewModeAlways,
+typedef NS_ENUM(NSInteger, UITextFieldViewMode) {
+  UITextFieldViewModeNever,
+  UITextFieldViewModeWhileEditing,
+  UITextFieldViewModeUnlessEditing,
+  UITextFieldViewModeAlways,
 };
 
 @protocol UITextFieldDelegate <NSObject>
@@ -28,7 +28,9 @@ typedef NS_ENUM(NSInteger, UITextFieldViewMode){
 - (void)textFieldDidBeginEditing:(UITextField *)textField;
 - (BOOL)textFieldShouldEndEditing:(UITextField *)textField;
 - (void)textFieldDidEndEditing:(UITextField *)textField;
-- (BOOL)textField:(UITextField *)textField shouldChangeCharactersInRange:(NSRange)range replacementString:(NSString *)string;
+- (BOOL)textField:(UITextField *)textField
+    shouldChangeCharactersInRange:(NSRange)range
+                replacementString:(NSString *)string;
 - (BOOL)textFieldShouldClear:(UITextField *)textField;
 - (BOOL)textFieldShouldReturn:(UITextField *)textField;
 @end
@@ -58,28 +60,28 @@ typedef NS_ENUM(NSInteger, UITextFieldViewMode){
   UIView *_inputAccessoryView;
   BOOL _editing;
 }
-@property(nonatomic, copy) NSString *text;
-@property(nonatomic, copy) NSAttributedString *attributedText;
-@property(nonatomic, copy) NSString *placeholder;
-@property(nonatomic, retain) UIFont *font;
-@property(nonatomic, retain) UIColor *textColor;
-@property(nonatomic) NSTextAlignment textAlignment;
-@property(nonatomic) UITextBorderStyle borderStyle;
-@property(nonatomic, assign) id<UITextFieldDelegate> delegate;
-@property(nonatomic, getter=isSecureTextEntry) BOOL secureTextEntry;
-@property(nonatomic) UIKeyboardType keyboardType;
-@property(nonatomic) UIKeyboardAppearance keyboardAppearance;
-@property(nonatomic) UIReturnKeyType returnKeyType;
-@property(nonatomic) UITextAutocapitalizationType autocapitalizationType;
-@property(nonatomic) UITextAutocorrectionType autocorrectionType;
-@property(nonatomic) UITextFieldViewMode clearButtonMode;
-@property(nonatomic) BOOL clearsOnBeginEditing;
-@property(nonatomic) BOOL adjustsFontSizeToFitWidth;
-@property(nonatomic, retain) UIView *leftView;
-@property(nonatomic, retain) UIView *rightView;
-@property(nonatomic, retain) UIView *inputView;
-@property(nonatomic, retain) UIView *inputAccessoryView;
-@property(nonatomic, readonly, getter=isEditing) BOOL editing;
+@property (nonatomic, copy) NSString *text;
+@property (nonatomic, copy) NSAttributedString *attributedText;
+@property (nonatomic, copy) NSString *placeholder;
+@property (nonatomic, retain) UIFont *font;
+@property (nonatomic, retain) UIColor *textColor;
+@property (nonatomic) NSTextAlignment textAlignment;
+@property (nonatomic) UITextBorderStyle borderStyle;
+@property (nonatomic, assign) id<UITextFieldDelegate> delegate;
+@property (nonatomic, getter=isSecureTextEntry) BOOL secureTextEntry;
+@property (nonatomic) UIKeyboardType keyboardType;
+@property (nonatomic) UIKeyboardAppearance keyboardAppearance;
+@property (nonatomic) UIReturnKeyType returnKeyType;
+@property (nonatomic) UITextAutocapitalizationType autocapitalizationType;
+@property (nonatomic) UITextAutocorrectionType autocorrectionType;
+@property (nonatomic) UITextFieldViewMode clearButtonMode;
+@property (nonatomic) BOOL clearsOnBeginEditing;
+@property (nonatomic) BOOL adjustsFontSizeToFitWidth;
+@property (nonatomic, retain) UIView *leftView;
+@property (nonatomic, retain) UIView *rightView;
+@property (nonatomic, retain) UIView *inputView;
+@property (nonatomic, retain) UIView *inputAccessoryView;
+@property (nonatomic, readonly, getter=isEditing) BOOL editing;
 @end
 
 #endif

@@ -12,12 +12,12 @@
   BOOL _editable;
   BOOL _selectable;
 }
-@property(nonatomic, copy) NSString *text;
-@property(nonatomic, retain) id font;
-@property(nonatomic, retain) id textColor;
-@property(nonatomic) NSTextAlignment textAlignment;
-@property(nonatomic, getter=isEditable) BOOL editable;
-@property(nonatomic, getter=isSelectable) BOOL selectable;
+@property (nonatomic, copy) NSString *text;
+@property (nonatomic, retain) id font;
+@property (nonatomic, retain) id textColor;
+@property (nonatomic) NSTextAlignment textAlignment;
+@property (nonatomic, getter=isEditable) BOOL editable;
+@property (nonatomic, getter=isSelectable) BOOL selectable;
 @end
 
 #endif

@@ -4,16 +4,16 @@
 #import <UIKit/UIKitDefines.h>
 #import <UIKit/UIDevice.h>
 
-typedef NS_ENUM(NSInteger, UIUserInterfaceStyle){
-    UIUserInterfaceStyleUnspecified,
-    UIUserInterfaceStyleLight,
-    UIUserInterfaceStyleDark,
+typedef NS_ENUM(NSInteger, UIUserInterfaceStyle) {
+  UIUserInterfaceStyleUnspecified,
+  UIUserInterfaceStyleLight,
+  UIUserInterfaceStyleDark,
 };
 
-typedef NS_ENUM(NSInteger, UIUserInterfaceSizeClass){
-    UIUserInterfaceSizeClassUnspecified = 0,
-    UIUserInterfaceSizeClassCompact = 1,
-    UIUserInterfaceSizeClassRegular = 2,
+typedef NS_ENUM(NSInteger, UIUserInterfaceSizeClass) {
+  UIUserInterfaceSizeClassUnspecified = 0,
+  UIUserInterfaceSizeClassCompact = 1,
+  UIUserInterfaceSizeClassRegular = 2,
 };
 
 /* Traits of the device in use: style from the profile's "darkMode", idiom from "idiom". */
@@ -26,15 +26,15 @@ typedef NS_ENUM(NSInteger, UIUserInterfaceSizeClass){
 }
 + (UITraitCollection *)currentTraitCollection;
 + (UITraitCollection *)traitCollectionWithUserInterfaceStyle:(UIUserInterfaceStyle)userInterfaceStyle;
-@property(nonatomic, readonly) UIUserInterfaceStyle userInterfaceStyle;
-@property(nonatomic, readonly) UIUserInterfaceIdiom userInterfaceIdiom;
-@property(nonatomic, readonly) CGFloat displayScale;
-@property(nonatomic, readonly) UIUserInterfaceSizeClass horizontalSizeClass;
-@property(nonatomic, readonly) UIUserInterfaceSizeClass verticalSizeClass;
+@property (nonatomic, readonly) UIUserInterfaceStyle userInterfaceStyle;
+@property (nonatomic, readonly) UIUserInterfaceIdiom userInterfaceIdiom;
+@property (nonatomic, readonly) CGFloat displayScale;
+@property (nonatomic, readonly) UIUserInterfaceSizeClass horizontalSizeClass;
+@property (nonatomic, readonly) UIUserInterfaceSizeClass verticalSizeClass;
 @end
 
 @protocol UITraitEnvironment <NSObject>
-@property(nonatomic, readonly) UITraitCollection *traitCollection;
+@property (nonatomic, readonly) UITraitCollection *traitCollection;
 - (void)traitCollectionDidChange:(UITraitCollection *)previousTraitCollection;
 @end
 

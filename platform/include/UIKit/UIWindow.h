@@ -16,10 +16,10 @@ UIKIT_EXTERN const UIWindowLevel UIWindowLevelStatusBar;
   UIWindowLevel _windowLevel;
   BOOL _keyWindow;
 }
-@property(nonatomic, retain) UIViewController *rootViewController;
-@property(nonatomic) UIWindowLevel windowLevel;
-@property(nonatomic, readonly, getter=isKeyWindow) BOOL keyWindow;
-@property(nonatomic, retain) UIScreen *screen;
+@property (nonatomic, retain) UIViewController *rootViewController;
+@property (nonatomic) UIWindowLevel windowLevel;
+@property (nonatomic, readonly, getter=isKeyWindow) BOOL keyWindow;
+@property (nonatomic, retain) UIScreen *screen;
 - (void)makeKeyAndVisible;
 - (void)makeKeyWindow;
 - (void)becomeKeyWindow;

@@ -15,25 +15,25 @@
 namespace tessarin::plist {
 
 struct RawNode {
-    enum class Kind { Scalar, Uid, Array, Dictionary };
+  enum class Kind { Scalar, Uid, Array, Dictionary };
 
-    Kind kind = Kind::Scalar;
-    Value scalar;                                        ///< Scalar: never an array or dictionary
-    uint64_t uid = 0;                                    ///< Uid
-    std::vector<RawNode> items;                          ///< Array
-    std::vector<std::pair<std::string, RawNode>> entries;  ///< Dictionary, file order
+  Kind kind = Kind::Scalar;
+  Value scalar;                                          ///< Scalar: never an array or dictionary
+  uint64_t uid = 0;                                      ///< Uid
+  std::vector<RawNode> items;                            ///< Array
+  std::vector<std::pair<std::string, RawNode>> entries;  ///< Dictionary, file order
 
-    static RawNode makeScalar(Value v);
-    static RawNode makeUid(uint64_t uid);
-    static RawNode makeArray(std::vector<RawNode> items = {});
-    static RawNode makeDictionary(std::vector<std::pair<std::string, RawNode>> entries = {});
+  static RawNode makeScalar(Value v);
+  static RawNode makeUid(uint64_t uid);
+  static RawNode makeArray(std::vector<RawNode> items = {});
+  static RawNode makeDictionary(std::vector<std::pair<std::string, RawNode>> entries = {});
 
-    bool isUid() const noexcept { return kind == Kind::Uid; }
-    bool isArray() const noexcept { return kind == Kind::Array; }
-    bool isDictionary() const noexcept { return kind == Kind::Dictionary; }
-    bool isScalar() const noexcept { return kind == Kind::Scalar; }
-    /// Dictionary lookup (first match); nullptr when absent or not a dictionary.
-    const RawNode *find(const char *key) const noexcept;
+  bool isUid() const noexcept { return kind == Kind::Uid; }
+  bool isArray() const noexcept { return kind == Kind::Array; }
+  bool isDictionary() const noexcept { return kind == Kind::Dictionary; }
+  bool isScalar() const noexcept { return kind == Kind::Scalar; }
+  /// Dictionary lookup (first match); nullptr when absent or not a dictionary.
+  const RawNode *find(const char *key) const noexcept;
 };
 
 /// Limits that hold for every reader: nesting depth, and the number of nodes
