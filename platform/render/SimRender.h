@@ -73,7 +73,7 @@
 @property (nonatomic, copy) NSArray *rows;     /* SimDrawnRow, top to bottom */
 @property (nonatomic, copy) NSArray *controls; /* SimDrawnControl */
 /* The pixels (ARGB32, premultiplied). */
-- (cairo_surface_t *)surface;
+@property (nonatomic, readonly) cairo_surface_t *surface;
 /* The colour at a point of the screen (0 to 255 each, not premultiplied). */
 - (void)getRed:(int *)red green:(int *)green blue:(int *)blue alpha:(int *)alpha atPoint:(CGPoint)point;
 /* Writes the picture as a PNG; `scale` > 0 writes it at that scale instead (a smaller copy). */

@@ -45,11 +45,17 @@ static BOOL opensSomething(PSSpecifier *specifier) {
 }
 @property (nonatomic, assign) SettingsConsole *console;
 @property (nonatomic, copy) NSString *folder;
+@property (nonatomic, retain) NSMutableString *manifest;  // pages.tsv: file, tab, page name
+@property (nonatomic, retain) NSMutableString *report;    // what the command prints
+@property (nonatomic, assign) NSUInteger count;           // pictures written
 @end
 
 @implementation SettingsGalleryWalk
 @synthesize console = _console;
 @synthesize folder = _folder;
+@synthesize manifest = _manifest;
+@synthesize report = _report;
+@synthesize count = _count;
 
 static const NSUInteger kMostPictures = 400;
 static const int kDeepest = 3;
