@@ -8,6 +8,8 @@ jobs=$(nproc)
 # texts as the simulated device's language says): run them under a fresh container's.
 export LANG=C.UTF-8 LC_ALL=
 
+"$top/tools/setup.sh"  # the Debian packages, the formatter among them
+
 echo "== format (.clang-format)"
 "$top/tools/format-check.sh"
 
