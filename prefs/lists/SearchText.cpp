@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <iterator>
 
+#include "core/plist/Utf.hpp"
+
 namespace tessarin::lists {
 
 namespace {
@@ -890,60 +892,10 @@ constexpr Folding kFoldings[] = {
 constexpr char32_t kMalformed = 0xFFFF;
 
 char32_t nextCharacter(std::string_view text, size_t &at) {
-  const auto byte = [&](size_t i) { return static_cast<unsigned char>(text[i]); };
-  const unsigned char lead = byte(at);
-  if (lead < 0x80) {
-    ++at;
-    return lead;
-  }
-  size_t length = 0;
-  char32_t c = 0;
-  char32_t least = 0;
-  if ((lead & 0xE0) == 0xC0) {
-    length = 2, c = lead & 0x1F, least = 0x80;
-  } else if ((lead & 0xF0) == 0xE0) {
-    length = 3, c = lead & 0x0F, least = 0x800;
-  } else if ((lead & 0xF8) == 0xF0) {
-    length = 4, c = lead & 0x07, least = 0x10000;
-  } else {
-    ++at;
-    return kMalformed;
-  }
-  if (at + length > text.size()) {
-    ++at;
-    return kMalformed;
-  }
-  for (size_t i = 1; i < length; ++i) {
-    if ((byte(at + i) & 0xC0) != 0x80) {
-      ++at;
-      return kMalformed;
-    }
-    c = (c << 6) | (byte(at + i) & 0x3F);
-  }
-  if (c < least || c > 0x10FFFF || (c >= 0xD800 && c <= 0xDFFF)) {
-    ++at;
-    return kMalformed;
-  }
-  at += length;
-  return c;
-}
-
-void appendUtf8(std::string &out, char32_t c) {
-  if (c < 0x80) {
-    out += static_cast<char>(c);
-  } else if (c < 0x800) {
-    out += static_cast<char>(0xC0 | (c >> 6));
-    out += static_cast<char>(0x80 | (c & 0x3F));
-  } else if (c < 0x10000) {
-    out += static_cast<char>(0xE0 | (c >> 12));
-    out += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
-    out += static_cast<char>(0x80 | (c & 0x3F));
-  } else {
-    out += static_cast<char>(0xF0 | (c >> 18));
-    out += static_cast<char>(0x80 | ((c >> 12) & 0x3F));
-    out += static_cast<char>(0x80 | ((c >> 6) & 0x3F));
-    out += static_cast<char>(0x80 | (c & 0x3F));
-  }
+  uint32_t c = 0;
+  if (plist::nextUtf8(text, at, c)) return c;
+  ++at;
+  return kMalformed;
 }
 
 bool isCombiningMark(char32_t c) {
@@ -983,7 +935,7 @@ void appendFolded(std::string &out, char32_t c) {
     out += found->to;
     return;
   }
-  appendUtf8(out, c);
+  plist::appendUtf8(out, c);
 }
 
 }  // namespace
